@@ -1,0 +1,78 @@
+#include "canvas/Format.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace lensbench {
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n\f\v";
+
+// The shortest decimal form that reads back as the same number, without an exponent: what a person
+// would write for it, so that 1.005 is halfway between 1.00 and 1.01 although its double is not.
+std::string shortestDecimal(double magnitude) {
+  std::array<char, 512> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                 std::chars_format::fixed);
+  return {buffer.data(), end.ptr};
+}
+
+// Adds one to the last digit of a decimal text, carrying leftwards.
+void roundUp(std::string& digits) {
+  for (auto i = digits.size(); i-- > 0;) {
+    if (digits[i] == '.') continue;
+    if (digits[i] != '9') {
+      ++digits[i];
+      return;
+    }
+    digits[i] = '0';
+  }
+  digits.insert(digits.begin(), '1');
+}
+
+std::string rounded(double value, std::size_t decimals) {
+  std::string digits = shortestDecimal(std::fabs(value));
+  if (digits.find('.') == std::string::npos) digits += '.';
+  const std::size_t keep = digits.find('.') + 1 + decimals;
+  if (digits.size() < keep) digits.append(keep - digits.size(), '0');
+  const bool up = digits.size() > keep && digits[keep] >= '5';
+  digits.resize(keep);
+  if (up) roundUp(digits);
+  if (decimals == 0) digits.pop_back();
+  const bool zero = digits.find_first_not_of("0.") == std::string::npos;
+  return value < 0.0 && !zero ? "-" + digits : digits;
+}
+
+}  // namespace
+
+std::string formatWhole(const Variant& v) { return rounded(v.value(), 0); }
+
+std::string formatHundredths(const Variant& v) { return rounded(v.value(), 2); }
+
+double numberFromText(std::string_view text, char decimalSign) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) throwTypeMismatch();
+  std::string digits(text.substr(first, text.find_last_not_of(blanks) - first + 1));
+  for (char& c : digits) {
+    if (c == decimalSign) c = '.';
+  }
+  // The reader takes no plus sign, but words such as "inf"; here it is the other way round.
+  if (digits.front() == '+' && digits.find('-') != 1) digits.erase(0, 1);
+  if (digits.find_first_not_of("0123456789.eE+-") != std::string::npos) throwTypeMismatch();
+
+  double value = 0.0;
+  const char* end = digits.data() + digits.size();
+  const auto read = std::from_chars(digits.data(), end, value);
+  if (read.ptr != end || read.ec == std::errc::invalid_argument) throwTypeMismatch();
+  if (read.ec == std::errc::result_out_of_range) {
+    const bool tiny =
+        digits.find("e-") != std::string::npos || digits.find("E-") != std::string::npos;
+    if (!tiny) throwOverflow();
+    return 0.0;
+  }
+  return value;
+}
+
+}  // namespace lensbench

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "canvas/Format.h"
+
+namespace lensbench {
+namespace {
+
+TEST(Format, WholeNumbersRoundHalvesAwayFromZero) {
+  EXPECT_EQ(formatWhole(90), "90");
+  EXPECT_EQ(formatWhole(2.5), "3");
+  EXPECT_EQ(formatWhole(-2.5), "-3");
+  EXPECT_EQ(formatWhole(2.4999), "2");
+  EXPECT_EQ(formatWhole(-0.4), "0");
+  EXPECT_EQ(formatWhole(99.5), "100");
+  EXPECT_EQ(formatWhole(Variant()), "0");
+}
+
+TEST(Format, HundredthsAlwaysShowTwoDecimalsAndAPoint) {
+  EXPECT_EQ(formatHundredths(1.5), "1.50");
+  EXPECT_EQ(formatHundredths(76), "76.00");
+  EXPECT_EQ(formatHundredths(1.005), "1.01");
+  EXPECT_EQ(formatHundredths(0.145), "0.15");
+  EXPECT_EQ(formatHundredths(-0.005), "-0.01");
+  EXPECT_EQ(formatHundredths(-0.001), "0.00");
+  EXPECT_EQ(formatHundredths(9.999), "10.00");
+  EXPECT_EQ(formatHundredths(Variant()), "0.00");
+}
+
+int errorOf(const char* text, char sign = '.') {
+  try {
+    static_cast<void>(numberFromText(text, sign));
+  } catch (const RuntimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+TEST(NumberFromText, ReadsAPointOrTheDecimalSign) {
+  EXPECT_EQ(numberFromText("45"), 45.0);
+  EXPECT_EQ(numberFromText(" -90 "), -90.0);
+  EXPECT_EQ(numberFromText("+.5"), 0.5);
+  EXPECT_EQ(numberFromText("22,5", ','), 22.5);
+  EXPECT_EQ(numberFromText("22.5", ','), 22.5);
+  EXPECT_EQ(numberFromText("1e2"), 100.0);
+  EXPECT_EQ(numberFromText("1e-999"), 0.0);
+}
+
+TEST(NumberFromText, WhatIsNoNumberIsError13) {
+  for (const char* text : {"", "  ", "abc", "22,5", "4 5", "1.2.3", "inf", "nan", "0x10", "+-5"}) {
+    EXPECT_EQ(errorOf(text), 13) << text;
+  }
+  EXPECT_EQ(errorOf("1.000,5", ','), 13);
+}
+
+TEST(NumberFromText, TooLargeIsError6) { EXPECT_EQ(errorOf("1e999"), 6); }
+
+}  // namespace
+}  // namespace lensbench
