@@ -1,0 +1,47 @@
+// The four screens: created on first use, kept until the end, and the moves between them.
+#pragma once
+
+#include <memory>
+
+#include "screens/Moves.h"
+
+namespace lensbench {
+
+class kelmo;
+class moniaktina;
+class eisagogiko;
+class ElSahl;
+
+class Screens : public Moves {
+ public:
+  Screens();
+  ~Screens() override;
+  Screens(const Screens&) = delete;
+  Screens& operator=(const Screens&) = delete;
+
+  // Referring to a screen that does not exist yet creates it and runs its Form_Load first.
+  lensbench::kelmo& kelmo();
+  lensbench::moniaktina& moniaktina();
+  lensbench::eisagogiko& eisagogiko();
+  lensbench::ElSahl& ElSahl();
+
+  void openSingleRay() override;
+  void openLensMenu() override;
+  void leaveSingleRay() override;
+  void leaveLensMenu() override;
+  void openIbnSahl() override;
+  void leaveIbnSahl() override;
+  [[noreturn]] void End() override;
+
+ private:
+  std::unique_ptr<lensbench::kelmo> kelmo_;
+  std::unique_ptr<lensbench::moniaktina> moniaktina_;
+  std::unique_ptr<lensbench::eisagogiko> eisagogiko_;
+  std::unique_ptr<lensbench::ElSahl> ElSahl_;
+};
+
+// Start-up: prepares the Ibn Sahl screen and the lens menu without showing them, and shows the
+// workbench.
+void Main(Screens& screens);
+
+}  // namespace lensbench

@@ -1,0 +1,31 @@
+// The moves between screens, as the screens ask for them: no screen knows another.
+#pragma once
+
+namespace lensbench {
+
+class Moves {
+ public:
+  virtual ~Moves() = default;
+
+  // Workbench, "AKTINA RAY": the single-ray screen, sized and with its lens drawn, takes its place.
+  virtual void openSingleRay() = 0;
+  // Workbench, "IBN SAHL": the lens menu opens in front of it.
+  virtual void openLensMenu() = 0;
+  // Single-ray screen, "Πίσω".
+  virtual void leaveSingleRay() = 0;
+  // Lens menu, spherical lenses.
+  virtual void leaveLensMenu() = 0;
+  // Lens menu, a hyperbolic lens: the Ibn Sahl screen gets its size, scale and strokes, and opens.
+  virtual void openIbnSahl() = 0;
+  // Ibn Sahl screen, "BACK TO MENU", after it has cleared itself.
+  virtual void leaveIbnSahl() = 0;
+  // Both "END" entries: the process ends at once, with exit status 0.
+  virtual void End() = 0;
+
+ protected:
+  Moves() = default;
+  Moves(const Moves&) = default;
+  Moves& operator=(const Moves&) = default;
+};
+
+}  // namespace lensbench

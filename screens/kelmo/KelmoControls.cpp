@@ -1,0 +1,194 @@
+#include "screens/kelmo/KelmoControls.h"
+
+#include "canvas/qt/Accessibility.h"
+
+namespace lensbench {
+namespace {
+
+constexpr double markerTwips = 135.0;
+constexpr double sourceTwips = 75.0;
+
+void setRange(ScrollBar& bar, int lowest, int highest, int largeStep, int value) {
+  bar.Min(lowest);
+  bar.Max(highest);
+  bar.LargeChange(largeStep);
+  bar.SmallChange(1);
+  bar.Value(value);
+}
+
+}  // namespace
+
+KelmoControls::KelmoControls(Form& form)
+    : singleray(form, "singleray"),
+      EPANALIPSI(form, "EPANALIPSI"),
+      SAHLIC(form, "SAHLIC"),
+      parallilakymata(form, "parallilakymata"),
+      kymatachronika(form, "kymatachronika"),
+      TELIOMA(form, "TELIOMA"),
+      aktina1(form, "aktina1", Qt::Horizontal),
+      Text6(form, "Text6"),
+      kentrokykloy2(form, "kentrokykloy2", Qt::Horizontal),
+      aktina2(form, "aktina2", Qt::Horizontal),
+      Text5(form, "Text5"),
+      kentrokykloy(form, "kentrokykloy", Qt::Horizontal),
+      Text7(form, "Text7"),
+      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal),
+      Text2(form, "Text2"),
+      desmi1(form, "desmi1", Qt::Horizontal),
+      Text1(form, "Text1"),
+      arvimaton(form, "arvimaton", Qt::Horizontal),
+      Label3(form, "Label3"),
+      Check1(form, "Check1"),
+      Check2(form, "Check2"),
+      VScroll1(form, "VScroll1", Qt::Vertical),
+      VScroll2(form, "VScroll2", Qt::Vertical),
+      HScroll1(form, "HScroll1", Qt::Horizontal),
+      Text3(form, "Text3"),
+      Text4(form, "Text4"),
+      Label1(form, "Label1"),
+      Label2(form, "Label2"),
+      Line1(form, "Line1"),
+      Line2(form, "Line2"),
+      pigi(form, "pigi"),
+      Shape1(form, "Shape1"),
+      Shape2(form, "Shape2"),
+      draggedEdge(form, "draggedEdge"),
+      Timer1(form, "Timer1"),
+      Timer2(form, "Timer2") {
+  setRanges();
+  setTexts();
+  setShapes();
+  describeAll();
+  setTabOrder();
+  Timer1.Enabled(true);
+  Timer2.Enabled(false);
+}
+
+void KelmoControls::setRanges() {
+  setRange(aktina1, 50, 500, 40, 100);
+  setRange(aktina2, 0, 500, 1, 90);
+  setRange(kentrokykloy2, -500, 0, 40, -50);
+  setRange(kentrokykloy, 0, 500, 40, 20);
+  setRange(deiktisdiathlasis, 40, 250, 10, 150);
+  setRange(desmi1, 2, 150, 10, 20);
+  setRange(arvimaton, 5, 150, 1, 30);
+  setRange(HScroll1, -100, 100, 5, 0);
+  setRange(VScroll1, -100, 0, 10, 0);
+  setRange(VScroll2, 0, 100, 10, 0);
+}
+
+void KelmoControls::setTexts() {
+  singleray.Caption("AKTINA RAY");
+  EPANALIPSI.Caption("// BUNDLE  DESMH");
+  SAHLIC.Caption("IBN SAHL");
+  parallilakymata.Caption("// WAVES  KYMATA");
+  kymatachronika.Caption("WAVES IN  TIME  XPONIKA");
+  TELIOMA.Caption("END");
+  for (MenuEntry* entry : {&parallilakymata, &kymatachronika}) entry->Checkable(true);
+  Check1.Caption("SHOW WAVES AND RAYS");
+  Check2.Caption("SHOW ONLY WAVES");
+  Label1.Caption(
+      "ΜΠΟΡΕΙΣ ΝΑ ΔΗΜΙΟΥΡΓΗΣΕΙΣ ΜΙΑ ΔΕΣΜΗ ΑΚΤΙΝΩΝ ΠΑΤΩΝΤΑΣ ΤΟ SHIFT KAI ΤΟ ΑΡΙΣΤΕΡΟ ΠΛΗΚΤΡΟ ΤΟΥ "
+      "ΠΟΝΤΙΚΟΥ PRESS SHIFT AND MOUSE TO HAVE A BUNDLE OF RAYS");
+  Label2.Caption(
+      "ΜΠΟΡΕΙΣ ΝΑ ΜΕΤΑΚΙΝΗΣΕΙΣ ΤΑ ΔΙΑΦΡΑΓΜΑΤΑ ΚΑΙ ΤΑ ΚΕΝΤΡΑ ΤΩΝ ΚΥΚΛΩΝ ΜΕ ΤΟ ΠΟΝΤΙΚΙ MOVE  THE "
+      "DIAPHRAGM WITH MOUSE");
+}
+
+void KelmoControls::setShapes() {
+  for (LineControl* blade : {&Line1, &Line2}) {
+    blade->BorderColor(RGB(100, 100, 0));
+    blade->BorderWidth(4);
+  }
+  pigi.BorderColor(RGB(255, 0, 0));
+  pigi.FillColor(RGB(255, 128, 0));
+  pigi.sizeInTwips(sourceTwips);
+  for (Shape* marker : {&Shape1, &Shape2}) {
+    marker->sizeInTwips(markerTwips);
+    marker->BorderColor(RGB(255, 0, 0));
+    marker->FillColor(RGB(255, 128, 0));
+    marker->Visible(false);
+  }
+  draggedEdge.BorderColor(RGB(255, 0, 0));
+  draggedEdge.Dotted(true);
+  draggedEdge.FillStyle(FillStyle::Transparent);
+  draggedEdge.Visible(false);
+}
+
+void KelmoControls::describeAll() {
+  describe(aktina1, "Ακτίνα αριστερού κύκλου · Radius of the left circle",
+           "Αλλάζει την ακτίνα του αριστερού κύκλου, τη δεξιά όψη του φακού.\n"
+           "Changes the radius of the left circle, the right face of the lens.");
+  describe(Text6, "Ακτίνα αριστερού κύκλου · Radius of the left circle",
+           "Η ακτίνα του αριστερού κύκλου.\nThe radius of the left circle.");
+  describe(kentrokykloy2, "Κέντρο αριστερού κύκλου · Centre of the left circle",
+           "Μετακινεί το κέντρο του αριστερού κύκλου πάνω στον άξονα.\n"
+           "Moves the centre of the left circle along the axis.");
+  describe(aktina2, "Ακτίνα δεξιού κύκλου · Radius of the right circle",
+           "Αλλάζει την ακτίνα του δεξιού κύκλου, την αριστερή όψη του φακού.\n"
+           "Changes the radius of the right circle, the left face of the lens.");
+  describe(Text5, "Ακτίνα δεξιού κύκλου · Radius of the right circle",
+           "Η ακτίνα του δεξιού κύκλου.\nThe radius of the right circle.");
+  describe(kentrokykloy, "Κέντρο δεξιού κύκλου · Centre of the right circle",
+           "Μετακινεί το κέντρο του δεξιού κύκλου πάνω στον άξονα.\n"
+           "Moves the centre of the right circle along the axis.");
+  describe(Text7, "Κέντρο δεξιού κύκλου · Centre of the right circle",
+           "Η τετμημένη του κέντρου του δεξιού κύκλου.\n"
+           "The abscissa of the centre of the right circle.");
+  describe(deiktisdiathlasis, "Δείκτης διάθλασης · Index of refraction",
+           "Αλλάζει τον δείκτη διάθλασης του φακού· φαίνεται στην επόμενη σχεδίαση.\n"
+           "Changes the index of refraction of the lens; seen at the next drawing.");
+  describe(Text2, "Δείκτης διάθλασης · Index of refraction",
+           "Ο δείκτης διάθλασης του φακού.\nThe index of refraction of the lens.");
+  describe(desmi1, "Πλήθος ακτίνων δέσμης · Rays of a bundle",
+           "Πόσα διαστήματα έχει η παράλληλη δέσμη και πόσο πυκνές είναι οι ακτίνες από το σημείο.\n"
+           "How many spaces a bundle has, and how dense the rays of a point source are.");
+  describe(Text1, "Πλήθος ακτίνων · Number of rays",
+           "Πόσες ακτίνες στέλνει η σημειακή πηγή.\nHow many rays the point source sends.");
+  describe(arvimaton, "Πολλαπλασιαστής ακτίνων · Multiplier of the ray step",
+           "Μεγαλώνει το βήμα ανάμεσα στις ακτίνες της σημειακής πηγής.\n"
+           "Widens the step between the rays of the point source.");
+  describe(Label3, "Πολλαπλασιαστής ακτίνων · Multiplier of the ray step",
+           "Ο πολλαπλασιαστής του βήματος.\nThe multiplier of the step.");
+  describe(Check1, "Κύματα και ακτίνες · Waves and rays",
+           "Δείχνει τα κύματα μαζί με τις ακτίνες.\nShows the waves together with the rays.");
+  describe(Check2, "Μόνο κύματα · Waves only",
+           "Δείχνει μόνο τα κύματα, χωρίς ακτίνες.\nShows the waves only, without rays.");
+  describe(VScroll1, "Άνω διάφραγμα · Upper blade",
+           "Ανεβάζει το άνω διάφραγμα: στην αρχή η οπή είναι κλειστή.\n"
+           "Raises the upper blade: at the start the opening is closed.");
+  describe(VScroll2, "Κάτω διάφραγμα · Lower blade",
+           "Κατεβάζει το κάτω διάφραγμα: στην αρχή η οπή είναι κλειστή.\n"
+           "Lowers the lower blade: at the start the opening is closed.");
+  describe(HScroll1, "Θέση διαφράγματος · Place of the diaphragm",
+           "Μετακινεί το διάφραγμα δεξιά και αριστερά. Για να περάσει φως, άνοιξέ το με τις "
+           "κάθετες μπάρες ή σύρε τα άκρα του με το ποντίκι.\n"
+           "Moves the diaphragm left and right. To let light through, open it with the vertical "
+           "bars or drag its ends with the mouse.");
+  describe(Text3, "Οπή διαφράγματος · Opening of the diaphragm",
+           "Το ύψος της οπής.\nThe height of the opening.");
+  describe(Text4, "Θέση διαφράγματος · Place of the diaphragm",
+           "Η τετμημένη του διαφράγματος.\nThe abscissa of the diaphragm.");
+  describe(singleray, "Μία ακτίνα · One ray",
+           "Ανοίγει την οθόνη με μία ακτίνα.\nOpens the screen of one ray.");
+  describe(EPANALIPSI, "Παράλληλη δέσμη · Bundle of parallel rays",
+           "Ρωτά τη γωνία και στέλνει παράλληλη δέσμη.\n"
+           "Asks for the angle and sends a bundle of parallel rays.");
+  describe(SAHLIC, "Φακοί Ιμπν Σαχλ · Lenses of Ibn Sahl",
+           "Ανοίγει τον κατάλογο των υπερβολικών φακών.\nOpens the menu of hyperbolic lenses.");
+  describe(parallilakymata, "Επίπεδα κύματα · Plane waves",
+           "Κινεί τα επίπεδα κύματα της τελευταίας δέσμης.\n"
+           "Moves the plane waves of the last bundle.");
+  describe(kymatachronika, "Κύματα στον χρόνο · Waves in time",
+           "Κινεί τα κύματα της σημειακής πηγής.\nMoves the waves of the point source.");
+  describe(TELIOMA, "Τέλος · End", "Τελειώνει το πρόγραμμα.\nEnds the program.");
+}
+
+void KelmoControls::setTabOrder() {
+  QWidget* order[] = {&aktina1,  &Text6,    &kentrokykloy2, &aktina2, &Text5,     &kentrokykloy,
+                      &Text7,    &deiktisdiathlasis, &Text2, &desmi1, &Text1,     &arvimaton,
+                      &Check1,   &Check2,   &VScroll1,      &VScroll2, &HScroll1, &Text3, &Text4};
+  for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+}  // namespace lensbench

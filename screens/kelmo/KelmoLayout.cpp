@@ -1,0 +1,78 @@
+// Where the controls of the workbench stand: the lens block at the top left, one column for each
+// circle and one for light, the diaphragm's sliders along the edges that its blades move against.
+#include <algorithm>
+#include <initializer_list>
+
+#include "screens/kelmo/KelmoControls.h"
+
+namespace lensbench {
+namespace {
+
+constexpr int gap = 6;          // between neighbours, pixels
+constexpr int barThickness = 18;
+constexpr int sliderLength = 130;
+constexpr int rowHeight = 24;
+
+int textWidth(const QWidget& box, const QString& longest) {
+  return box.fontMetrics().horizontalAdvance(longest) + 16;
+}
+
+void placeRow(QWidget& slider, QWidget& text, int x, int y, int textLength) {
+  slider.setGeometry(x, y + (rowHeight - barThickness) / 2, sliderLength, barThickness);
+  text.setGeometry(x + sliderLength + gap, y, textLength, rowHeight);
+}
+
+}  // namespace
+
+void KelmoControls::arrange(int width, int height) {
+  const int row = rowHeight + gap;
+  const int top = gap;
+
+  // The widest text each column can come to show.
+  const int circle1Text = textWidth(Text6, QStringLiteral("Ακτίνα1 =500"));
+  const int circle2Text = textWidth(Text7, QStringLiteral("Κέντρο δεξί κύκλου=500"));
+  const int lightText =
+      std::max(textWidth(Text2, QStringLiteral("Index of Refraction Δείκτης Διάθλασης= 2.50")),
+               textWidth(Text1, QStringLiteral("Number of Rays Αριθμός ακτινών= 3437.00")));
+
+  const int column1 = gap;
+  const int column2 = column1 + sliderLength + gap + circle1Text + 2 * gap;
+  const int column3 = column2 + sliderLength + gap + circle2Text + 2 * gap;
+
+  placeRow(aktina1, Text6, column1, top, circle1Text);
+  kentrokykloy2.setGeometry(column1, top + row + (rowHeight - barThickness) / 2, sliderLength,
+                            barThickness);
+  placeRow(aktina2, Text5, column2, top, circle2Text);
+  placeRow(kentrokykloy, Text7, column2, top + row, circle2Text);
+  placeRow(deiktisdiathlasis, Text2, column3, top, lightText);
+  placeRow(desmi1, Text1, column3, top + row, lightText);
+  placeRow(arvimaton, Label3, column3, top + 2 * row, lightText);
+  Check1.setGeometry(column1, top + 2 * row, column2 - column1 - gap, rowHeight);
+  Check2.setGeometry(column2, top + 2 * row, column3 - column2 - gap, rowHeight);
+
+  // Each vertical bar spans the half that its blade moves in, so that thumbs stand at blade ends.
+  const int axis = height / 2;
+  const int barLeft = width - barThickness;
+  HScroll1.setGeometry(0, height - barThickness, width, barThickness);
+  VScroll1.setGeometry(barLeft, 0, barThickness, axis);
+  VScroll2.setGeometry(barLeft, axis, barThickness, height - barThickness - axis);
+
+  const int diaphragmText =
+      std::max(textWidth(Text3, QStringLiteral("οπή διαφράγματος =1000")),
+               textWidth(Text4, QStringLiteral("Θέση διαφράγματος-1000")));
+  const int bottom = height - barThickness - gap;
+  const int diaphragmLeft = barLeft - gap - diaphragmText;
+  Text4.setGeometry(diaphragmLeft, bottom - rowHeight, diaphragmText, rowHeight);
+  Text3.setGeometry(diaphragmLeft, bottom - rowHeight - row, diaphragmText, rowHeight);
+
+  // The two hints share what is left of the bottom strip.
+  const int hintWidth = std::clamp((diaphragmLeft - 3 * gap) / 2, 120, 360);
+  int x = gap;
+  for (Label* hint : {&Label1, &Label2}) {
+    const int needed = hint->heightForWidth(hintWidth);
+    hint->setGeometry(x, bottom - needed, hintWidth, needed);
+    x += hintWidth + 2 * gap;
+  }
+}
+
+}  // namespace lensbench

@@ -1,0 +1,86 @@
+// The diaphragm of the workbench: two blades at one abscissa, and the three sliders that move them.
+#include <algorithm>
+#include <cmath>
+
+#include "canvas/Format.h"
+#include "screens/kelmo/kelmo.h"
+
+namespace lensbench {
+
+using poreiaaktinon::Diafragma;
+
+namespace {
+
+// A slider's place on its half of the drawing area and back; percent of that half.
+double alongHalf(double start, double length, double percent) {
+  return start + length / 2.0 + length / 2.0 * percent / 100.0;
+}
+
+int nearestPercent(double start, double length, double place) {
+  return static_cast<int>(std::lround((place - start - length / 2.0) / (length / 2.0) * 100.0));
+}
+
+}  // namespace
+
+Diafragma kelmo::diaphragmOfSliders() const {
+  const Canvas& surface = canvas();
+  return {alongHalf(surface.ScaleLeft(), surface.ScaleWidth(), controls_.HScroll1.Value()),
+          alongHalf(surface.ScaleTop(), surface.ScaleHeight(), controls_.VScroll1.Value()),
+          alongHalf(surface.ScaleTop(), surface.ScaleHeight(), controls_.VScroll2.Value())};
+}
+
+void kelmo::placeDiaphragm(const Diafragma& diafragma) {
+  const DrawingArea area = drawingAreaOf(canvas());
+  const auto place = [&](LineControl& blade, double outer, double inner) {
+    blade.X1(diafragma.X);
+    blade.X2(diafragma.X);
+    blade.Y1(outer);
+    blade.Y2(inner);
+  };
+  place(controls_.Line1, area.top, diafragma.yA);
+  place(controls_.Line2, area.bottom, diafragma.yB);
+  controls_.Text3.Text(QStringLiteral("οπή διαφράγματος =") +
+                       QString::fromStdString(formatWhole(diafragma.yA - diafragma.yB)));
+  controls_.Text4.Text(QStringLiteral("Θέση διαφράγματος") +
+                       QString::fromStdString(formatWhole(diafragma.X)));
+}
+
+void kelmo::slidersFollowBlades() {
+  const Diafragma d = workbench_.diafragma();
+  const Canvas& surface = canvas();
+  const auto follow = [](ScrollBar& slider, int value) {
+    const QSignalBlocker quiet(slider);
+    slider.Value(std::clamp(value, slider.Min(), slider.Max()));
+  };
+  follow(controls_.HScroll1, nearestPercent(surface.ScaleLeft(), surface.ScaleWidth(), d.X));
+  follow(controls_.VScroll1, nearestPercent(surface.ScaleTop(), surface.ScaleHeight(), d.yA));
+  follow(controls_.VScroll2, nearestPercent(surface.ScaleTop(), surface.ScaleHeight(), d.yB));
+}
+
+void kelmo::HScroll1_Change() {
+  Diafragma d = workbench_.diafragma();
+  d.X = diaphragmOfSliders().X;
+  placeDiaphragm(d);
+  clearAndDraw();
+}
+
+void kelmo::VScroll1_Change() {
+  controls_.Line1.BorderColor(RGB(250, 0, 0));
+  controls_.Line1.BorderWidth(4);
+  Diafragma d = workbench_.diafragma();
+  d.yA = diaphragmOfSliders().yA;
+  placeDiaphragm(d);
+  clearAndDraw();
+}
+
+void kelmo::VScroll2_Change() {
+  Diafragma d = workbench_.diafragma();
+  d.yB = diaphragmOfSliders().yB;
+  canvas().DrawWidth(10);
+  canvas().PSet(d.X, d.yB, RGB(255, 5, 255));
+  canvas().DrawWidth(1);
+  placeDiaphragm(d);
+  clearAndDraw();
+}
+
+}  // namespace lensbench
