@@ -35,7 +35,7 @@ start_display() {
   fi
   export DISPLAY=:$number LC_ALL=C.UTF-8
   unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-  openbox --sm-disable 2>"$scratch/manager" &
+  openbox --sm-disable >"$scratch/manager" 2>&1 &
   display_processes+=($!)
   # Only a running window manager answers this question.
   for ((tries = 0; tries < 200; ++tries)); do

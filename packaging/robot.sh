@@ -4,7 +4,7 @@
 # in the screen's own user units, as its drawing area is scaled.
 
 # Height of a window's menu bar, pixels.
-menu_bar=${menu_bar:-22}
+menu_bar=${menu_bar:-19}
 program=
 log=
 
@@ -126,7 +126,7 @@ answer() {
 menu() {
   local step
   activate "$1"
-  key F10
+  key Alt_L
   for ((step = 1; step < $2; ++step)); do key Right; done
   key Return
 }
