@@ -40,13 +40,14 @@ QString errorHeadline(const RuntimeError& error) {
 }
 
 QString errorSentence(const RuntimeError& error, const QString& action) {
-  const QString sentence =
-      action.isEmpty()
-          ? QStringLiteral("Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
-                           "It happened at start-up, and the program ends.")
-          : QStringLiteral("Συνέβη στην ενέργεια «%1» και το πρόγραμμα τελειώνει. "
-                           "It happened at this action, and the program ends.")
-                .arg(action);
+  const QString sentence = action.isEmpty()
+                               ? QStringLiteral(
+                                     "Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
+                                     "It happened at start-up, and the program ends.")
+                               : QStringLiteral(
+                                     "Συνέβη στην ενέργεια «%1» και το πρόγραμμα τελειώνει. "
+                                     "It happened at this action, and the program ends.")
+                                     .arg(action);
   if (error.detail().empty()) return sentence;
   return QString::fromStdString(error.detail()) + QLatin1Char('\n') + sentence;
 }

@@ -1,8 +1,9 @@
 // The application object with the one error boundary of the program.
 #pragma once
 
-#include <QApplication>
 #include <functional>
+
+#include <QApplication>
 
 #include "canvas/RuntimeError.h"
 

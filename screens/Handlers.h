@@ -1,9 +1,10 @@
 // Joins the events of controls to the handlers of a screen, and remembers which action is running.
 #pragma once
 
+#include <exception>
+
 #include <QObject>
 #include <QString>
-#include <exception>
 
 namespace lensbench {
 

@@ -7,6 +7,7 @@ namespace lensbench {
 namespace {
 
 using poreiaaktinon::Diafragma;
+using poreiaaktinon::Edges;
 using poreiaaktinon::Fakos;
 
 constexpr double centreMargin = 8.0;
@@ -40,27 +41,22 @@ Grab edgeAt(Point p, const Fakos& lens) {
   return left <= right ? Grab::LeftEdge : Grab::RightEdge;
 }
 
-Grab bladeAt(Point p, const Diafragma& d, const DrawingArea& area) {
-  const double band = std::fabs(area.width()) / 120.0;
-  const double margin = std::fabs(area.height()) / 120.0;
+Grab bladeAt(Point p, const Diafragma& d, const Edges& edges) {
+  const double band = (edges.right - edges.left) / 120.0;
+  const double margin = (edges.upper - edges.lower) / 120.0;
   if (p.x <= d.X - band || p.x >= d.X + band) return Grab::None;
   const auto between = [&](double lower, double upper) {
     return p.y > lower - margin && p.y < upper + margin;
   };
-  if (between(d.yA, area.top)) return Grab::UpperBlade;
-  if (between(area.bottom, d.yB)) return Grab::LowerBlade;
+  if (between(d.yA, edges.upper)) return Grab::UpperBlade;
+  if (between(edges.lower, d.yB)) return Grab::LowerBlade;
   return p.y > d.yB && p.y < d.yA ? Grab::Diaphragm : Grab::None;
 }
 
 }  // namespace
 
-DrawingArea drawingAreaOf(const Canvas& canvas) {
-  return {canvas.ScaleLeft(), canvas.ScaleLeft() + canvas.ScaleWidth(), canvas.ScaleTop(),
-          canvas.ScaleTop() + canvas.ScaleHeight()};
-}
-
-Grab grabAt(Point p, const Diafragma& diafragma, const Fakos& fakos, const DrawingArea& area) {
-  if (const Grab blade = bladeAt(p, diafragma, area); blade != Grab::None) return blade;
+Grab grabAt(Point p, const Diafragma& diafragma, const Fakos& fakos, const Edges& edges) {
+  if (const Grab blade = bladeAt(p, diafragma, edges); blade != Grab::None) return blade;
   if (const Grab centre = centreAt(p, fakos); centre != Grab::None) return centre;
   return edgeAt(p, fakos);
 }
@@ -69,17 +65,17 @@ bool insideLens(Point p, const Fakos& fakos) {
   return distance(p, fakos.xc1) <= fakos.R1 && distance(p, fakos.xc2) <= fakos.R2;
 }
 
-Diafragma releasedDiaphragm(Grab grab, Point p, const Diafragma& before, const DrawingArea& area) {
+Diafragma releasedDiaphragm(Grab grab, Point p, const Diafragma& before, const Edges& edges) {
   Diafragma after = before;
-  after.X = std::clamp(p.x, area.left, area.right);
+  after.X = std::clamp(p.x, edges.left, edges.right);
   if (grab == Grab::UpperBlade) {
-    after.yA = std::clamp(p.y, before.yB, std::max(before.yB, area.top));
+    after.yA = std::clamp(p.y, before.yB, std::max(before.yB, edges.upper));
   } else if (grab == Grab::LowerBlade) {
-    after.yB = std::clamp(p.y, std::min(area.bottom, before.yA), before.yA);
+    after.yB = std::clamp(p.y, std::min(edges.lower, before.yA), before.yA);
   } else if (grab == Grab::Diaphragm && p.y < before.yB) {
-    const double step = std::fabs(area.height()) / 10.0;
+    const double step = (edges.upper - edges.lower) / 10.0;
     const double down = std::min(std::ceil((before.yB - p.y) / step) * step,
-                                 std::max(0.0, before.yB - area.bottom));
+                                 std::max(0.0, before.yB - edges.lower));
     after.yA -= down;
     after.yB -= down;
   }
@@ -92,8 +88,8 @@ int releasedCentre(double x, int lowest, int highest) {
 }
 
 int releasedRadius(double x, double centre, int lowest, int highest) {
-  return static_cast<int>(std::floor(std::clamp(
-      std::fabs(centre - x), static_cast<double>(lowest), static_cast<double>(highest))));
+  return static_cast<int>(std::floor(std::clamp(std::fabs(centre - x), static_cast<double>(lowest),
+                                                static_cast<double>(highest))));
 }
 
 }  // namespace lensbench

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "canvas/Canvas.h"
+#include "optics/poreiaaktinon/DrawingArea.h"
 #include "optics/poreiaaktinon/Workbench.h"
 
 namespace lensbench {
@@ -18,17 +19,9 @@ enum class Grab {
   RightEdge
 };
 
-// The drawing area that the blades reach into; y grows upward.
-struct DrawingArea {
-  double left, right, top, bottom;
-  double width() const { return right - left; }
-  double height() const { return top - bottom; }
-};
-DrawingArea drawingAreaOf(const Canvas& canvas);
-
 // What a press at p takes: blades before the opening, centres before edges.
 Grab grabAt(Point p, const poreiaaktinon::Diafragma& diafragma, const poreiaaktinon::Fakos& fakos,
-            const DrawingArea& area);
+            const poreiaaktinon::Edges& edges);
 
 // Inside the glass, faces included.
 bool insideLens(Point p, const poreiaaktinon::Fakos& fakos);
@@ -38,7 +31,7 @@ bool insideLens(Point p, const poreiaaktinon::Fakos& fakos);
 // is no longer below it. Both ends stay in the drawing area.
 poreiaaktinon::Diafragma releasedDiaphragm(Grab grab, Point p,
                                            const poreiaaktinon::Diafragma& before,
-                                           const DrawingArea& area);
+                                           const poreiaaktinon::Edges& edges);
 
 // The scroll-bar value of a centre let go at abscissa x: the nearest whole number, halves to even,
 // never across the origin from its side, within lowest..highest.

@@ -1,12 +1,18 @@
 #include "screens/kelmo/KelmoControls.h"
 
-#include "canvas/qt/Accessibility.h"
+#include <iterator>
 
 namespace lensbench {
 namespace {
 
 constexpr double markerTwips = 135.0;
 constexpr double sourceTwips = 75.0;
+
+// Controls get their places from the size of the window.
+constexpr Place arranged{};
+
+// A shape of this diameter; where it stands is for the screen to say.
+constexpr Place ofDiameter(double twips) { return {0.0, 0.0, twips, twips}; }
 
 void setRange(ScrollBar& bar, int lowest, int highest, int largeStep, int value) {
   bar.Min(lowest);
@@ -19,40 +25,40 @@ void setRange(ScrollBar& bar, int lowest, int highest, int largeStep, int value)
 }  // namespace
 
 KelmoControls::KelmoControls(Form& form)
-    : singleray(form, "singleray"),
-      EPANALIPSI(form, "EPANALIPSI"),
-      SAHLIC(form, "SAHLIC"),
-      parallilakymata(form, "parallilakymata"),
-      kymatachronika(form, "kymatachronika"),
-      TELIOMA(form, "TELIOMA"),
-      aktina1(form, "aktina1", Qt::Horizontal),
-      Text6(form, "Text6"),
-      kentrokykloy2(form, "kentrokykloy2", Qt::Horizontal),
-      aktina2(form, "aktina2", Qt::Horizontal),
-      Text5(form, "Text5"),
-      kentrokykloy(form, "kentrokykloy", Qt::Horizontal),
-      Text7(form, "Text7"),
-      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal),
-      Text2(form, "Text2"),
-      desmi1(form, "desmi1", Qt::Horizontal),
-      Text1(form, "Text1"),
-      arvimaton(form, "arvimaton", Qt::Horizontal),
-      Label3(form, "Label3"),
-      Check1(form, "Check1"),
-      Check2(form, "Check2"),
-      VScroll1(form, "VScroll1", Qt::Vertical),
-      VScroll2(form, "VScroll2", Qt::Vertical),
-      HScroll1(form, "HScroll1", Qt::Horizontal),
-      Text3(form, "Text3"),
-      Text4(form, "Text4"),
-      Label1(form, "Label1"),
-      Label2(form, "Label2"),
-      Line1(form, "Line1"),
-      Line2(form, "Line2"),
-      pigi(form, "pigi"),
-      Shape1(form, "Shape1"),
-      Shape2(form, "Shape2"),
-      draggedEdge(form, "draggedEdge"),
+    : singleray(form, "singleray", "AKTINA RAY"),
+      EPANALIPSI(form, "EPANALIPSI", "// BUNDLE  DESMH"),
+      SAHLIC(form, "SAHLIC", "IBN SAHL"),
+      parallilakymata(form, "parallilakymata", "// WAVES  KYMATA"),
+      kymatachronika(form, "kymatachronika", "WAVES IN  TIME  XPONIKA"),
+      TELIOMA(form, "TELIOMA", "END"),
+      aktina1(form, "aktina1", Qt::Horizontal, arranged),
+      Text6(form, "Text6", arranged),
+      kentrokykloy2(form, "kentrokykloy2", Qt::Horizontal, arranged),
+      aktina2(form, "aktina2", Qt::Horizontal, arranged),
+      Text5(form, "Text5", arranged),
+      kentrokykloy(form, "kentrokykloy", Qt::Horizontal, arranged),
+      Text7(form, "Text7", arranged),
+      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal, arranged),
+      Text2(form, "Text2", arranged),
+      desmi1(form, "desmi1", Qt::Horizontal, arranged),
+      Text1(form, "Text1", arranged),
+      arvimaton(form, "arvimaton", Qt::Horizontal, arranged),
+      Label3(form, "Label3", arranged),
+      Check1(form, "Check1", arranged),
+      Check2(form, "Check2", arranged),
+      VScroll1(form, "VScroll1", Qt::Vertical, arranged),
+      VScroll2(form, "VScroll2", Qt::Vertical, arranged),
+      HScroll1(form, "HScroll1", Qt::Horizontal, arranged),
+      Text3(form, "Text3", arranged),
+      Text4(form, "Text4", arranged),
+      Label1(form, "Label1", arranged),
+      Label2(form, "Label2", arranged),
+      Line1(form, "Line1", {}),
+      Line2(form, "Line2", {}),
+      pigi(form, "pigi", ofDiameter(sourceTwips)),
+      Shape1(form, "Shape1", ofDiameter(markerTwips)),
+      Shape2(form, "Shape2", ofDiameter(markerTwips)),
+      draggedEdge(form, "draggedEdge", {}),
       Timer1(form, "Timer1"),
       Timer2(form, "Timer2") {
   setRanges();
@@ -78,13 +84,6 @@ void KelmoControls::setRanges() {
 }
 
 void KelmoControls::setTexts() {
-  singleray.Caption("AKTINA RAY");
-  EPANALIPSI.Caption("// BUNDLE  DESMH");
-  SAHLIC.Caption("IBN SAHL");
-  parallilakymata.Caption("// WAVES  KYMATA");
-  kymatachronika.Caption("WAVES IN  TIME  XPONIKA");
-  TELIOMA.Caption("END");
-  for (MenuEntry* entry : {&parallilakymata, &kymatachronika}) entry->Checkable(true);
   Check1.Caption("SHOW WAVES AND RAYS");
   Check2.Caption("SHOW ONLY WAVES");
   Label1.Caption(
@@ -102,15 +101,15 @@ void KelmoControls::setShapes() {
   }
   pigi.BorderColor(RGB(255, 0, 0));
   pigi.FillColor(RGB(255, 128, 0));
-  pigi.sizeInTwips(sourceTwips);
+  pigi.FillStyle(FillStyle::Solid);
   for (Shape* marker : {&Shape1, &Shape2}) {
-    marker->sizeInTwips(markerTwips);
     marker->BorderColor(RGB(255, 0, 0));
     marker->FillColor(RGB(255, 128, 0));
+    marker->FillStyle(FillStyle::Solid);
     marker->Visible(false);
   }
   draggedEdge.BorderColor(RGB(255, 0, 0));
-  draggedEdge.Dotted(true);
+  draggedEdge.BorderStyle(BorderStyle::Dotted);
   draggedEdge.FillStyle(FillStyle::Transparent);
   draggedEdge.Visible(false);
 }
@@ -140,9 +139,10 @@ void KelmoControls::describeAll() {
            "Changes the index of refraction of the lens; seen at the next drawing.");
   describe(Text2, "Δείκτης διάθλασης · Index of refraction",
            "Ο δείκτης διάθλασης του φακού.\nThe index of refraction of the lens.");
-  describe(desmi1, "Πλήθος ακτίνων δέσμης · Rays of a bundle",
-           "Πόσα διαστήματα έχει η παράλληλη δέσμη και πόσο πυκνές είναι οι ακτίνες από το σημείο.\n"
-           "How many spaces a bundle has, and how dense the rays of a point source are.");
+  describe(
+      desmi1, "Πλήθος ακτίνων δέσμης · Rays of a bundle",
+      "Πόσα διαστήματα έχει η παράλληλη δέσμη και πόσο πυκνές είναι οι ακτίνες από το σημείο.\n"
+      "How many spaces a bundle has, and how dense the rays of a point source are.");
   describe(Text1, "Πλήθος ακτίνων · Number of rays",
            "Πόσες ακτίνες στέλνει η σημειακή πηγή.\nHow many rays the point source sends.");
   describe(arvimaton, "Πολλαπλασιαστής ακτίνων · Multiplier of the ray step",
@@ -185,9 +185,10 @@ void KelmoControls::describeAll() {
 }
 
 void KelmoControls::setTabOrder() {
-  QWidget* order[] = {&aktina1,  &Text6,    &kentrokykloy2, &aktina2, &Text5,     &kentrokykloy,
-                      &Text7,    &deiktisdiathlasis, &Text2, &desmi1, &Text1,     &arvimaton,
-                      &Check1,   &Check2,   &VScroll1,      &VScroll2, &HScroll1, &Text3, &Text4};
+  QWidget* order[] = {
+      &aktina1,           &Text6,    &kentrokykloy2, &aktina2, &Text5,     &kentrokykloy, &Text7,
+      &deiktisdiathlasis, &Text2,    &desmi1,        &Text1,   &arvimaton, &Check1,       &Check2,
+      &VScroll1,          &VScroll2, &HScroll1,      &Text3,   &Text4};
   for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 

@@ -8,14 +8,10 @@
 namespace lensbench {
 namespace {
 
-constexpr int gap = 6;          // between neighbours, pixels
+constexpr int gap = 6;  // between neighbours, pixels
 constexpr int barThickness = 18;
 constexpr int sliderLength = 130;
 constexpr int rowHeight = 24;
-
-int textWidth(const QWidget& box, const QString& longest) {
-  return box.fontMetrics().horizontalAdvance(longest) + 16;
-}
 
 void placeRow(QWidget& slider, QWidget& text, int x, int y, int textLength) {
   slider.setGeometry(x, y + (rowHeight - barThickness) / 2, sliderLength, barThickness);
@@ -29,11 +25,11 @@ void KelmoControls::arrange(int width, int height) {
   const int top = gap;
 
   // The widest text each column can come to show.
-  const int circle1Text = textWidth(Text6, QStringLiteral("Ακτίνα1 =500"));
-  const int circle2Text = textWidth(Text7, QStringLiteral("Κέντρο δεξί κύκλου=500"));
+  const int circle1Text = Text6.widthForText(QStringLiteral("Ακτίνα1 =500"));
+  const int circle2Text = Text7.widthForText(QStringLiteral("Κέντρο δεξί κύκλου=500"));
   const int lightText =
-      std::max(textWidth(Text2, QStringLiteral("Index of Refraction Δείκτης Διάθλασης= 2.50")),
-               textWidth(Text1, QStringLiteral("Number of Rays Αριθμός ακτινών= 3437.00")));
+      std::max(Text2.widthForText(QStringLiteral("Index of Refraction Δείκτης Διάθλασης= 2.50")),
+               Text1.widthForText(QStringLiteral("Number of Rays Αριθμός ακτινών= 3437.00")));
 
   const int column1 = gap;
   const int column2 = column1 + sliderLength + gap + circle1Text + 2 * gap;
@@ -57,9 +53,8 @@ void KelmoControls::arrange(int width, int height) {
   VScroll1.setGeometry(barLeft, 0, barThickness, axis);
   VScroll2.setGeometry(barLeft, axis, barThickness, height - barThickness - axis);
 
-  const int diaphragmText =
-      std::max(textWidth(Text3, QStringLiteral("οπή διαφράγματος =1000")),
-               textWidth(Text4, QStringLiteral("Θέση διαφράγματος-1000")));
+  const int diaphragmText = std::max(Text3.widthForText(QStringLiteral("οπή διαφράγματος =1000")),
+                                     Text4.widthForText(QStringLiteral("Θέση διαφράγματος-1000")));
   const int bottom = height - barThickness - gap;
   const int diaphragmLeft = barLeft - gap - diaphragmText;
   Text4.setGeometry(diaphragmLeft, bottom - rowHeight, diaphragmText, rowHeight);

@@ -55,8 +55,8 @@ void drawFullCircles(Canvas& canvas, const Fakos& lens) {
 double fillStart(const Canvas& canvas, const Fakos& lens) {
   const double leftVertex = std::max(lens.xc2 - lens.R2, lens.xc1 - lens.R1);
   const double rightVertex = std::min(lens.xc1 + lens.R1, lens.xc2 + lens.R2);
-  const double start = rightVertex - leftVertex > 100.0 ? rightVertex - 50.0
-                                                        : (leftVertex + rightVertex) / 2.0;
+  const double start =
+      rightVertex - leftVertex > 100.0 ? rightVertex - 50.0 : (leftVertex + rightVertex) / 2.0;
   const double pixel = canvas.ScaleX(1.0, ScaleUnit::Pixel, ScaleUnit::User);
   const double left = canvas.ScaleLeft() + pixel;
   const double right = canvas.ScaleLeft() + canvas.ScaleWidth() - pixel;

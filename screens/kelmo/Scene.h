@@ -10,11 +10,11 @@ namespace lensbench {
 // What both pictures are drawn from, read of the workbench once.
 struct LensScene {
   poreiaaktinon::Fakos fakos;
-  bool exists = false;   // the circles cross and no radius is 0: there is a lens body
-  double xordi = 0.0;    // abscissa of the common chord
-  double h = 0.0;        // half-height of the lens, from the axis to the rim
-  Variant f;             // lensmaker focal length; Empty without a lens or where it is infinite
-  Point bladeEnd;        // lower end of the upper blade
+  bool exists = false;  // the circles cross and no radius is 0: there is a lens body
+  double xordi = 0.0;   // abscissa of the common chord
+  double h = 0.0;       // half-height of the lens, from the axis to the rim
+  Variant f;            // lensmaker focal length; Empty without a lens or where it is infinite
+  Point bladeEnd;       // lower end of the upper blade
 };
 LensScene lensScene(const poreiaaktinon::Workbench& workbench);
 

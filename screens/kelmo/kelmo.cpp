@@ -24,8 +24,9 @@ QString text(const char* caption, const std::string& number) {
 
 }  // namespace
 
-kelmo::kelmo(Moves& moves)
-    : Form(design), moves_(moves), controls_(*this), workbench_(*this) {
+kelmo::kelmo(Moves& moves) : Form(design), moves_(moves), controls_(*this), workbench_(*this) {
+  // The first drawing already asks for the workbench, while it is being created.
+  poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return workbench_; });
   canvas().FontName("Symbol");
   canvas().FontSize(7.5);
   connectHandlers();
@@ -34,12 +35,11 @@ kelmo::kelmo(Moves& moves)
 
 void kelmo::connectHandlers() {
   KelmoControls& c = controls_;
-  on<Form>(*this, &Form::MouseDown, *this, &kelmo::Form_MouseDown);
-  on<Form>(*this, &Form::MouseMove, *this, &kelmo::Form_MouseMove);
-  on<Form>(*this, &Form::MouseUp, *this, &kelmo::Form_MouseUp);
-  on<Form>(*this, &Form::Click, *this, &kelmo::Form_Click);
-  on<Form>(*this, &Form::Resized, *this, &kelmo::resized);
-  on<Form>(*this, &Form::CloseBox, *this, &kelmo::TELIOMA_Click);
+  on(static_cast<Form&>(*this), &Form::MouseDown, *this, &kelmo::Form_MouseDown);
+  on(static_cast<Form&>(*this), &Form::MouseMove, *this, &kelmo::Form_MouseMove);
+  on(static_cast<Form&>(*this), &Form::MouseUp, *this, &kelmo::Form_MouseUp);
+  on(static_cast<Form&>(*this), &Form::Resized, *this, &kelmo::resized);
+  on(static_cast<Form&>(*this), &Form::CloseBox, *this, &kelmo::TELIOMA_Click);
   on(c.aktina1, &ScrollBar::Change, *this, &kelmo::aktina1_Change);
   on(c.aktina2, &ScrollBar::Change, *this, &kelmo::aktina2_Change);
   on(c.kentrokykloy, &ScrollBar::Change, *this, &kelmo::kentrokykloy_Change);
@@ -65,7 +65,7 @@ void kelmo::connectHandlers() {
 void kelmo::Form_Load() {
   KelmoControls& c = controls_;
   fillDisplay();
-  canvas().AutoRedraw(true);
+  AutoRedraw(true);
   c.Text1.FontName(timesGreek);
   c.Text2.FontName(timesGreek);
   vima = fanStep();

@@ -21,7 +21,8 @@ class kelmo : public Form {
   poreiaaktinon::Workbench& workbench() { return workbench_; }
   const WaveAnimation& animation() const { return animation_; }
 
-  // arxinizo: reads the scene's state from the controls and draws the lens scene over what is there.
+  // arxinizo: reads the scene's state from the controls and draws the lens scene over what is
+  // there.
   void arxinizo();
   // drawBundle: clears, draws the scene and a bundle of parallel rays at an angle in radians.
   void drawBundle(const Variant& angle);
@@ -62,15 +63,15 @@ class kelmo : public Form {
   void Timer1_Timer();
   void Timer2_Timer();
 
-  Variant R1;      // radius of the left circle, user units
-  Variant R2;      // radius of the right circle, user units
-  Variant xc1;     // centre of the left circle on the axis, user units
-  Variant xc2;     // centre of the right circle on the axis, user units
-  Variant n;       // index of refraction
-  Variant vima;    // step between the rays of a fan, degrees
-  Variant xpigi;   // light source, user units
+  Variant R1;     // radius of the left circle, user units
+  Variant R2;     // radius of the right circle, user units
+  Variant xc1;    // centre of the left circle on the axis, user units
+  Variant xc2;    // centre of the right circle on the axis, user units
+  Variant n;      // index of refraction
+  Variant vima;   // step between the rays of a fan, degrees
+  Variant xpigi;  // light source, user units
   Variant ypigi;
-  Variant gonia;   // angle of the last bundle with the horizontal, radians
+  Variant gonia;  // angle of the last bundle with the horizontal, radians
 
  private:
   void connectHandlers();
@@ -107,7 +108,7 @@ class kelmo : public Form {
   WaveAnimation animation_;
   Grab grabbed_ = Grab::None;
   poreiaaktinon::Diafragma grabbedDiaphragm_;  // as it was when the mouse took it
-  Variant ticks_;  // tick counter, the time index of the waves
+  Variant ticks_;                              // tick counter, the time index of the waves
 };
 
 }  // namespace lensbench

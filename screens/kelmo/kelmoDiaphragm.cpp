@@ -30,15 +30,15 @@ Diafragma kelmo::diaphragmOfSliders() const {
 }
 
 void kelmo::placeDiaphragm(const Diafragma& diafragma) {
-  const DrawingArea area = drawingAreaOf(canvas());
+  const poreiaaktinon::Edges edges = poreiaaktinon::edgesOf(canvas());
   const auto place = [&](LineControl& blade, double outer, double inner) {
     blade.X1(diafragma.X);
     blade.X2(diafragma.X);
     blade.Y1(outer);
     blade.Y2(inner);
   };
-  place(controls_.Line1, area.top, diafragma.yA);
-  place(controls_.Line2, area.bottom, diafragma.yB);
+  place(controls_.Line1, edges.upper, diafragma.yA);
+  place(controls_.Line2, edges.lower, diafragma.yB);
   controls_.Text3.Text(QStringLiteral("οπή διαφράγματος =") +
                        QString::fromStdString(formatWhole(diafragma.yA - diafragma.yB)));
   controls_.Text4.Text(QStringLiteral("Θέση διαφράγματος") +

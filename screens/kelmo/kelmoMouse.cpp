@@ -27,8 +27,8 @@ void kelmo::Form_Click() {}
 void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   if (Button != leftButton) return;
   const Point p{X, Y};
-  const DrawingArea area = drawingAreaOf(canvas());
-  grabbed_ = grabAt(p, workbench_.diafragma(), workbench_.fakos(), area);
+  grabbed_ =
+      grabAt(p, workbench_.diafragma(), workbench_.fakos(), poreiaaktinon::edgesOf(canvas()));
   grabbedDiaphragm_ = workbench_.diafragma();
   const bool shift = (Shift & shiftKey) != 0;
   if (shift && grabbed_ == Grab::None && !insideLens(p, workbench_.fakos())) {
@@ -79,7 +79,7 @@ void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
     case Grab::LowerBlade:
     case Grab::Diaphragm:
       return placeDiaphragm(
-          releasedDiaphragm(grabbed_, p, grabbedDiaphragm_, drawingAreaOf(canvas())));
+          releasedDiaphragm(grabbed_, p, grabbedDiaphragm_, poreiaaktinon::edgesOf(canvas())));
   }
 }
 
@@ -118,7 +118,7 @@ void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
     case Grab::LowerBlade:
     case Grab::Diaphragm:
       placeDiaphragm(
-          releasedDiaphragm(released, {X, Y}, grabbedDiaphragm_, drawingAreaOf(canvas())));
+          releasedDiaphragm(released, {X, Y}, grabbedDiaphragm_, poreiaaktinon::edgesOf(canvas())));
       slidersFollowBlades();
       clearAndDraw();
       break;

@@ -1,8 +1,8 @@
 // Bundles of parallel rays, and the waves that move on the workbench.
-#include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "optics/protosfakos/SahlState.h"
+#include "screens/Answers.h"
 #include "screens/kelmo/Scene.h"
 #include "screens/kelmo/kelmo.h"
 
@@ -18,9 +18,10 @@ void kelmo::EPANALIPSI_Click() {
   // Asked first, so that a cancelled question changes nothing at all.
   const auto answer = dialogs().InputBox(
       QStringLiteral("Give angle with horizontal direction: -90<φ<90"), {}, QStringLiteral("0"));
-  // The toolkit has already turned the check mark of the entry that was clicked; there is none here.
+  // The toolkit has already turned the check mark of the entry that was clicked; there is none
+  // here.
   if (!answer) return;
-  const Variant degrees = numberFromText(answer->toStdString(), decimalSign());
+  const Variant degrees = numberFromAnswer(*answer);
   protosfakos::state().desmiMode = true;
   ticks_ = 0;
   controls_.Timer1.Interval(1500);

@@ -1,0 +1,11 @@
+// Runs the tests of the screens on the toolkit's offscreen platform.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::testing::InitGoogleTest(&argc, argv);
+  const QApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}
