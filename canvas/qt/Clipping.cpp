@@ -1,0 +1,40 @@
+#include "canvas/qt/Clipping.h"
+
+namespace lensbench {
+namespace {
+
+// Keeps of the parameter range [enter, leave] what lies on the inner side of one edge; along is
+// how fast the segment goes outwards, room how much of the way is left at its start.
+bool cut(long double along, long double room, long double& enter, long double& leave) {
+  if (along == 0.0L) return room >= 0.0L;
+  const long double t = room / along;
+  if (along < 0.0L) {
+    if (t > enter) enter = t;
+  } else if (t < leave) {
+    leave = t;
+  }
+  return enter <= leave;
+}
+
+Point at(FarPoint from, long double dx, long double dy, long double t) {
+  return {static_cast<double>(from.x + t * dx), static_cast<double>(from.y + t * dy)};
+}
+
+}  // namespace
+
+std::optional<Segment> clipped(FarPoint from, FarPoint to, const Box& box) {
+  const long double dx = to.x - from.x;
+  const long double dy = to.y - from.y;
+  long double enter = 0.0L;
+  long double leave = 1.0L;
+  if (!cut(-dx, from.x - box.left, enter, leave) || !cut(dx, box.right - from.x, enter, leave) ||
+      !cut(-dy, from.y - box.top, enter, leave) || !cut(dy, box.bottom - from.y, enter, leave)) {
+    return std::nullopt;
+  }
+  // An end point that is kept is kept to the last bit.
+  const Point first = enter > 0.0L ? at(from, dx, dy, enter) : at(from, 0.0L, 0.0L, 0.0L);
+  const Point last = leave < 1.0L ? at(from, dx, dy, leave) : at(to, 0.0L, 0.0L, 0.0L);
+  return Segment{first, last};
+}
+
+}  // namespace lensbench

@@ -1,0 +1,45 @@
+// The client area of a form: shows the picture, and over it the shapes and lines.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include "canvas/qt/RasterCanvas.h"
+
+namespace lensbench {
+
+class DrawingArea : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit DrawingArea(QWidget* parent);
+
+  RasterCanvas& canvas() noexcept { return canvas_; }
+  // Gives the canvas the size and the pixel ratio that the widget has.
+  void fitCanvas();
+
+ signals:
+  // In logical pixels of the area.
+  void pressed(QMouseEvent* event);
+  void moved(QMouseEvent* event);
+  void released(QMouseEvent* event);
+  void canvasResized();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override { emit pressed(event); }
+  void mouseMoveEvent(QMouseEvent* event) override { emit moved(event); }
+  void mouseReleaseEvent(QMouseEvent* event) override { emit released(event); }
+
+ private:
+  void showSoon();
+  void refresh();
+  void keepOverlaysInPlace(const UserMapping& old);
+
+  RasterCanvas canvas_;
+  QImage display_;  // the picture in device pixels
+  bool showPending_ = false;
+};
+
+}  // namespace lensbench

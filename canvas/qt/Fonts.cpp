@@ -1,0 +1,33 @@
+#include "canvas/qt/Fonts.h"
+
+#include <algorithm>
+
+#include <QFontDatabase>
+#include <QStringList>
+
+namespace lensbench {
+namespace {
+
+QString firstInstalled(const QStringList& wanted) {
+  for (const QString& family : wanted) {
+    if (QFontDatabase::hasFamily(family)) return family;
+  }
+  const QStringList greek = QFontDatabase::families(QFontDatabase::Greek);
+  return greek.isEmpty() ? wanted.front() : greek.front();
+}
+
+}  // namespace
+
+QString installedFamily(const QString& givenName) {
+  static const QString serif = firstInstalled({"Liberation Serif", "DejaVu Serif"});
+  static const QString sans = firstInstalled({"Liberation Sans", "DejaVu Sans"});
+  return givenName.contains("Times", Qt::CaseInsensitive) ? serif : sans;
+}
+
+QFont controlFont(const QString& givenName, double points) {
+  QFont font(installedFamily(givenName));
+  font.setPointSizeF(std::max(points, smallestControlText));
+  return font;
+}
+
+}  // namespace lensbench

@@ -1,0 +1,12 @@
+#include "canvas/qt/Label.h"
+
+namespace lensbench {
+
+Label::Label(Form& form, const QString& name, const Place& place) : Control(form, name, place) {
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  setAutoFillBackground(true);
+}
+
+}  // namespace lensbench

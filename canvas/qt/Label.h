@@ -1,0 +1,20 @@
+// Fixed or computed text, wrapped into its width.
+#pragma once
+
+#include <QLabel>
+
+#include "canvas/qt/Control.h"
+
+namespace lensbench {
+
+class Label : public Control<QLabel> {
+  Q_OBJECT
+
+ public:
+  Label(Form& form, const QString& name, const Place& place);
+
+  QString Caption() const { return text(); }
+  void Caption(const QString& caption) { setText(caption); }
+};
+
+}  // namespace lensbench

@@ -1,0 +1,33 @@
+// A command that stands in the menu bar itself.
+#pragma once
+
+#include <QAction>
+#include <QString>
+
+namespace lensbench {
+
+class Form;
+
+class MenuEntry : public QAction {
+  Q_OBJECT
+
+ public:
+  MenuEntry(Form& form, const QString& name, const QString& caption);
+
+  QString Caption() const { return caption_; }
+  void Caption(const QString& caption);
+  // The check mark; only code sets and takes it.
+  bool Checked() const noexcept { return checked_; }
+  void Checked(bool checked);
+
+ signals:
+  void Click();
+
+ private:
+  void showCaption();
+
+  QString caption_;
+  bool checked_ = false;
+};
+
+}  // namespace lensbench

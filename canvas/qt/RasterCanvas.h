@@ -1,0 +1,94 @@
+// The drawing surface on an image that lasts: hard pixels, oversampled for smoothness.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include <QImage>
+#include <QObject>
+#include <QRect>
+#include <QSize>
+
+#include "canvas/Canvas.h"
+#include "canvas/qt/Strokes.h"
+
+namespace lensbench {
+
+// User units against logical pixels of the client area: the pixel of a user point and back.
+struct UserMapping {
+  double left, top;         // user point at the upper-left corner
+  double xPixels, yPixels;  // pixels per unit, signed
+
+  Point toPixel(Point user) const { return {(user.x - left) * xPixels, (user.y - top) * yPixels}; }
+  Point toUser(Point pixel) const { return {left + pixel.x / xPixels, top + pixel.y / yPixels}; }
+};
+
+// k for a display: two image pixels a device pixel, one where device pixels are fine enough.
+constexpr int oversamplingFor(double devicePixelRatio) noexcept {
+  return devicePixelRatio >= 2.0 ? 1 : 2;
+}
+
+// The image holds k x k pixels for each device pixel. A point of the logical pixel grid stands in
+// the middle of its pixel, so that a pen of width 1 on it covers that pixel and no other.
+class RasterCanvas final : public QObject, public Canvas {
+  Q_OBJECT
+
+ public:
+  explicit RasterCanvas(QSize logical = {1, 1}, double devicePixelRatio = 1.0,
+                        int oversampling = 1);
+
+  const QImage& image() const noexcept { return image_; }
+  QSize size() const noexcept { return logical_; }
+  double devicePixelRatio() const noexcept { return ratio_; }
+  int oversampling() const noexcept { return oversampling_; }
+  UserMapping mapping() const;
+
+  // A new client area, at least 1 x 1. The picture stays at the upper left, a new strip has
+  // BackColor, and a user scale keeps its pixels per unit.
+  void resize(QSize logical, double devicePixelRatio);
+  void setOversampling(int k);
+
+  // What has changed since the last call, in image pixels; afterwards nothing has.
+  QRect takeDirty();
+
+ signals:
+  // Something has changed after nothing had.
+  void pictureChanged();
+  void scaleReplaced(const lensbench::UserMapping& old);
+
+ protected:
+  double clientWidth() const override { return logical_.width(); }
+  double clientHeight() const override { return logical_.height(); }
+  void clear(Rgb colour) override;
+  void strokeLine(Point from, Point to, const Pen& pen) override;
+  void strokeCircle(Point centre, double radius, const Pen& pen, std::optional<Rgb> fill) override;
+  void strokeArc(Point centre, double radius, const Pen& pen, double start, double end) override;
+  void paintDot(Point centre, const Pen& pen) override;
+  double paintText(Point upperLeft, std::string_view text, const Font& font, Rgb colour) override;
+  bool fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) override;
+  void scaleAboutToChange() override;
+  void scaleChanged() override;
+
+ private:
+  struct Stroke;
+
+  double imagePixelsPerPixel() const noexcept { return ratio_ * oversampling_; }
+  QSize imageSize(QSize logical, double pixelsPerPixel) const;
+  FarPoint toImage(Point user) const;
+  Stroke stroke(const Pen& pen) const;
+  void paintArc(Point centre, double radius, const Pen& pen, double start, double sweep);
+  void paintPiece(const Pixels& pixels, const Stroke& stroke, const Segment& line);
+  void paintDashes(const Pixels& pixels, const Stroke& stroke, const Segment& line, double phase);
+  void resample(double oldPixelsPerPixel);
+  void markDirty(const QRect& changed);
+
+  QSize logical_;
+  double ratio_;
+  int oversampling_;
+  QImage image_;
+  QRect dirty_;
+  DotStamp stamp_{1};
+  UserMapping oldMapping_{};
+};
+
+}  // namespace lensbench

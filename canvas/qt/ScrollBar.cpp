@@ -1,0 +1,34 @@
+#include "canvas/qt/ScrollBar.h"
+
+#include <QPainter>
+
+namespace lensbench {
+
+ScrollBar::ScrollBar(Form& form, const QString& name, Qt::Orientation orientation,
+                     const Place& place)
+    : Control(form, name, place, orientation) {
+  setFocusPolicy(Qt::StrongFocus);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  connect(this, &QScrollBar::valueChanged, this, &ScrollBar::Change);
+}
+
+void ScrollBar::paintEvent(QPaintEvent* event) {
+  QScrollBar::paintEvent(event);
+  if (!hasFocus()) return;
+  // The styles show no focus on a scroll bar, yet who works it by keyboard must see it.
+  QPainter painter(this);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void ScrollBar::focusInEvent(QFocusEvent* event) {
+  QScrollBar::focusInEvent(event);
+  update();
+}
+
+void ScrollBar::focusOutEvent(QFocusEvent* event) {
+  QScrollBar::focusOutEvent(event);
+  update();
+}
+
+}  // namespace lensbench

@@ -1,0 +1,39 @@
+// Scroll bar.
+#pragma once
+
+#include <QScrollBar>
+
+#include "canvas/qt/Control.h"
+
+namespace lensbench {
+
+class ScrollBar : public Control<QScrollBar> {
+  Q_OBJECT
+
+ public:
+  ScrollBar(Form& form, const QString& name, Qt::Orientation orientation, const Place& place);
+
+  int Value() const { return value(); }
+  // Kept within Min and Max; fires Change when the value is a new one.
+  void Value(int value) { setValue(value); }
+  int Min() const { return minimum(); }
+  void Min(int least) { setMinimum(least); }
+  int Max() const { return maximum(); }
+  void Max(int most) { setMaximum(most); }
+  // Step of a click beside the thumb, and of an arrow.
+  int LargeChange() const { return pageStep(); }
+  void LargeChange(int step) { setPageStep(step); }
+  int SmallChange() const { return singleStep(); }
+  void SmallChange(int step) { setSingleStep(step); }
+
+ signals:
+  // A new value, by hand (also while dragging) or from code.
+  void Change();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+};
+
+}  // namespace lensbench

@@ -1,0 +1,44 @@
+#include "canvas/qt/Timer.h"
+
+#include <algorithm>
+
+#include "canvas/qt/Form.h"
+
+namespace lensbench {
+namespace {
+
+// The shortest time between two ticks in whole ms: one frame of a display that shows 60 a second.
+constexpr int frame = 17;
+
+int holds = 0;
+
+}  // namespace
+
+Timer::Timer(Form& form, const QString& name) : QObject(&form), source_(makeTickSource()) {
+  setObjectName(name);
+  source_->onTick = [this] {
+    if (holds == 0) emit Tick();
+  };
+}
+
+Timer::~Timer() = default;
+
+void Timer::Enabled(bool enabled) {
+  enabled_ = enabled;
+  restart();
+}
+
+void Timer::Interval(int milliseconds) {
+  interval_ = std::max(0, milliseconds);
+  restart();
+}
+
+void Timer::restart() {
+  source_->stop();
+  if (enabled_ && interval_ > 0) source_->start(std::max(interval_, frame));
+}
+
+TickHold::TickHold() { ++holds; }
+TickHold::~TickHold() { --holds; }
+
+}  // namespace lensbench
