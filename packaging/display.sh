@@ -8,7 +8,6 @@ stop_display() {
   local i
   for ((i = ${#display_processes[@]} - 1; i >= 0; --i)); do
     kill "${display_processes[i]}" 2>/dev/null || true
-    wait "${display_processes[i]}" 2>/dev/null || true
   done
   display_processes=()
 }

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2046
 # Works the program from outside with real pointer and key input, and takes pictures.
 # To be sourced after packaging/display.sh. Windows are X11 window numbers; points on a screen are
 # in the screen's own user units, as its drawing area is scaled.
@@ -16,6 +16,8 @@ fail() {
 
 # start_program EXECUTABLE: leaves its process number in `program`, what it says in `log`.
 start_program() {
+  if [[ ! -x $1 ]]; then fail "no program $1"; fi
+  rm -f "$log"
   log=$(mktemp)
   "$1" >"$log" 2>&1 &
   program=$!
@@ -129,6 +131,13 @@ menu() {
   key Alt_L
   for ((step = 1; step < $2; ++step)); do key Right; done
   key Return
+}
+
+# open_diaphragm WORKBENCH X HALF: draws the closed blades, which stand at 0, to the abscissa X and
+# apart, each by HALF units.
+open_diaphragm() {
+  drag "$1" $(at_bench "$1" 0 100) $(at_bench "$1" "$2" "$3")
+  drag "$1" $(at_bench "$1" "$2" -100) $(at_bench "$1" "$2" $((-$3)))
 }
 
 # settle: until the display has stopped changing (or three seconds have passed).

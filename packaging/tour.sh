@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Shows the four screens on a virtual display, worked by real pointer and key input, and leaves
 # pictures: packaging/tour.sh PROGRAM DIR. One function a stop of the tour.
+# shellcheck disable=SC2046,SC2086  # points are two words on purpose
 set -euo pipefail
 here=$(dirname "${BASH_SOURCE[0]}")
 source "$here/display.sh"
@@ -22,9 +23,106 @@ frame() {
   echo "$pictures/$1.png"
 }
 
-stops=()
+# The workbench as it opens, then with its blades drawn apart before the lens.
+workbench() {
+  bench=$(window "SPHERICAL  LENSES")
+  picture workbench
+  open_diaphragm "$bench" -120 130
+  picture diaphragm
+}
+
+fan() {
+  shift_click "$bench" $(at_bench "$bench" -260 50)
+  picture fan
+}
+
+bundle() {
+  menu "$bench" 2
+  window "Lens Bench" >/dev/null
+  answer 20
+  picture bundle
+}
+
+# Wave points along the rays, true fronts.
+waves() {
+  click "$bench" $waves_and_rays
+  menu "$bench" 2
+  window "Lens Bench" >/dev/null
+  answer 20
+  picture bundle-with-waves
+  shift_click "$bench" $(at_bench "$bench" -260 50)
+  picture fan-with-waves
+  click "$bench" $waves_and_rays
+}
+
+# waves_in_time NAME ENTRY: three moments of an animation that lasts about four seconds.
+waves_in_time() {
+  local moment
+  menu "$bench" "$2"
+  for moment in 1 2 3; do
+    sleep 0.9
+    frame "$1-$moment"
+  done
+  settle
+}
+plane_waves() { waves_in_time plane-waves 4; }
+waves_of_a_point() { waves_in_time waves-of-a-point 5; }
+
+# Placed by the press, aimed by the release.
+single_ray() {
+  local ray
+  menu "$bench" 1
+  ray=$(window "ΜΙΑ ΑΚΤΙΝΑ")
+  drag "$ray" $(at_ray "$ray" -170 90) $(at_ray "$ray" -20 50)
+  picture single-ray
+  click "$ray" 324 24
+  no_window "ΜΙΑ ΑΚΤΙΝΑ"
+}
+
+lens_menu() {
+  menu "$bench" 3
+  choice=$(window "CHOOSE  LENS")
+  picture lens-menu
+}
+
+plano_convex() {
+  click "$choice" 228 68
+  sahl=$(window "Ιμπν Σαχλ")
+  picture ibn-sahl-plano-convex "$sahl"
+  click "$sahl" 232 $((menu_bar + 12))
+  click "$sahl" $(at_sahl "$sahl" 100 -15)
+  picture ibn-sahl-plano-convex-rays "$sahl"
+  click "$sahl" 56 $((menu_bar + 12))
+  click "$sahl" $(at_sahl "$sahl" -18 0)
+  picture ibn-sahl-plano-convex-waves "$sahl"
+  menu "$sahl" 4
+  no_window "Ιμπν Σαχλ"
+}
+
+biconvex() {
+  click "$choice" 82 68
+  sahl=$(window "Ιμπν Σαχλ")
+  click "$sahl" 144 $((menu_bar + 12))
+  picture ibn-sahl-biconvex "$sahl"
+  menu "$sahl" 1
+  window "Angle in" >/dev/null
+  answer 10
+  picture ibn-sahl-biconvex-bundle "$sahl"
+}
+
+# By the menu entry "END", with status 0.
+farewell() {
+  menu "$sahl" 2
+  expect_end 0
+}
+
+# The check box "SHOW WAVES AND RAYS" in the workbench's window, pixels.
+waves_and_rays="20 $((menu_bar + 78))"
 
 mkdir -p "$pictures"
 start_display 1366x768
 start_program "$program_file"
-for stop in "${stops[@]}"; do "$stop"; done
+for stop in workbench fan bundle waves plane_waves waves_of_a_point single_ray \
+  lens_menu plano_convex biconvex farewell; do
+  "$stop"
+done

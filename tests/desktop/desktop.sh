@@ -1,0 +1,67 @@
+# shellcheck shell=bash disable=SC2046
+# What the desktop tests share: a scratch folder, the program on a display, questions to pictures.
+# To be sourced by a test that got the program as its first argument.
+set -euo pipefail
+root=$(dirname "${BASH_SOURCE[0]}")/../..
+source "$root/packaging/display.sh"
+source "$root/packaging/robot.sh"
+
+executable=$1
+scratch=$(mktemp -d)
+
+# What a test's figures are made of.
+ray_in_air='rgb(255,0,0)'
+ray_in_glass='rgb(0,0,255)'
+glass='rgb(220,220,195)'
+
+# begin [SIZE]: the program on a display of its own; the workbench's window in `bench`.
+begin() {
+  start_display "${1:-1366x768}"
+  start_program "$executable"
+  trap 'kill "$program" 2>/dev/null || true; rm -rf "$log" "$scratch"; stop_display' EXIT
+  bench=$(window "SPHERICAL  LENSES")
+  settle
+}
+
+# Ends the program by the workbench's own entry, which is asked of every test that can.
+end() {
+  menu "$bench" 6
+  expect_end 0
+}
+
+# shot NAME [WINDOW]: a picture at rest. The pointer is parked first, or a tool tip may come.
+shot() {
+  settle
+  snapshot "$scratch/$1.png" "${2:-$bench}"
+}
+
+# count NAME COLOUR: pixels of about that colour in that picture. A line may lie between two rows
+# of pixels, so a third of the way towards white is still its colour.
+count() { pixels "$scratch/$1.png" "$2" 33%; }
+
+expect_some() {
+  local found
+  found=$(count "$1" "$2")
+  if ((found < $3)); then fail "picture $1 has $found pixels of $2, less than $3"; fi
+}
+expect_none() {
+  local found
+  found=$(count "$1" "$2")
+  if ((found > 0)); then fail "picture $1 has $found pixels of $2"; fi
+}
+
+# differing NAME NAME: how many pixels of the two pictures differ.
+differing() {
+  local answer status=0
+  answer=$(compare -metric AE "$scratch/$1.png" "$scratch/$2.png" null: 2>&1) || status=$?
+  if ((status > 1)); then fail "pictures $1 and $2 cannot be compared: $answer"; fi
+  awk -v n="$answer" 'BEGIN { printf "%d\n", n }'
+}
+expect_same() {
+  local found
+  found=$(differing "$1" "$2")
+  if ((found > 0)); then fail "pictures $1 and $2 differ in $found pixels"; fi
+}
+expect_different() {
+  if (($(differing "$1" "$2") == 0)); then fail "pictures $1 and $2 are the same"; fi
+}
