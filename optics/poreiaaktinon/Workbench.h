@@ -1,5 +1,8 @@
-// What the spherical optics must know of the workbench screen, as a view that the screen implements.
+// What the spherical optics must know of the workbench screen, as a view that the screen
+// implements.
 #pragma once
+
+#include <functional>
 
 #include "canvas/Canvas.h"
 
@@ -44,5 +47,12 @@ class Workbench {
   Workbench(const Workbench&) = default;
   Workbench& operator=(const Workbench&) = default;
 };
+
+// The workbench that the routines without a screen argument draw on and read. The provider creates
+// it when it is first asked for; an empty provider disconnects.
+void connectWorkbench(std::function<Workbench&()> provider);
+bool workbenchConnected();
+// Must not be called while none is connected.
+Workbench& workbench();
 
 }  // namespace lensbench::poreiaaktinon

@@ -1,0 +1,112 @@
+#include "optics/poreiaaktinon/CardinalPoints.h"
+
+#include "canvas/Variant.h"
+#include "optics/poreiaaktinon/SurfaceSearch.h"
+
+namespace lensbench::poreiaaktinon {
+namespace {
+
+constexpr double planeHalfHeight = 200.0;
+constexpr double raysEnd = 500.0;  // abscissa at which the constructed rays end
+
+double thickness(const Fakos& fakos) { return (fakos.R1 + fakos.xc1) - (fakos.xc2 - fakos.R2); }
+
+// 1/f of the thick lens.
+Variant power(const Fakos& fakos, const Variant& n) {
+  const Variant R1 = fakos.R1;
+  const Variant R2 = fakos.R2;
+  const Variant P = (n - 1) / R1 + (n - 1) / R2;
+  const Variant Q = (n - 1) * (n - 1) * thickness(fakos) / n;
+  return P - Q / (R2 * R1);
+}
+
+}  // namespace
+
+CardinalPoints cardinalPoints(const Fakos& fakos, double n) {
+  const double d = thickness(fakos);
+  const Variant f = 1 / power(fakos, n);
+  const double left = fakos.xc2 - fakos.R2;
+  const double right = fakos.R1 + fakos.xc1;
+  const double H1 = (left + d * f * (n - 1) / (n * Variant(fakos.R2))).value();
+  const double H2 = (right - d * f * (n - 1) / (n * Variant(fakos.R1))).value();
+  return {d, f.value(), H1, H2, H1, H2, (H1 - f).value(), (H2 + f).value()};
+}
+
+bool hasCardinalPoints(const Fakos& fakos, double n) {
+  return hasLens(fakos) && n != 0.0 && n != 1.0 && power(fakos, n) != 0;
+}
+
+bool canConstruct(const CardinalPoints& points, Point source) {
+  return source.y != 0.0 && source.x != points.F1 && source.x != points.N1 &&
+         points.F2 != points.H2;
+}
+
+void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points) {
+  canvas.DrawWidth(1);  // a wider pen would not dot
+  canvas.DrawStyle(DrawStyle::Dotted);
+  canvas.Line(points.H1, -planeHalfHeight, points.H1, planeHalfHeight);
+  canvas.Line(points.H2, -planeHalfHeight, points.H2, planeHalfHeight);
+  canvas.DrawStyle(DrawStyle::Solid);
+
+  canvas.DrawWidth(15);
+  canvas.PSet(points.F1, 0.0, RGB(255, 0, 0));
+  canvas.PSet(points.F2, 0.0, RGB(255, 0, 0));
+  canvas.PSet(points.N1, 0.0, RGB(5, 250, 0));
+  canvas.PSet(points.N2, 0.0, RGB(5, 250, 0));
+  canvas.DrawWidth(1);
+}
+
+void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source) {
+  constexpr Rgb colour = RGB(0, 255, 255);
+  const Variant xS = source.x;
+  const Variant yS = source.y;
+  const auto line = [&](const Variant& x1, const Variant& y1, const Variant& x2,
+                        const Variant& y2) {
+    canvas.Line(x1.value(), y1.value(), x2.value(), y2.value(), colour);
+  };
+  canvas.DrawWidth(2);
+
+  const Variant s1 = -yS / (points.F1 - xS);
+  const Variant y1 = yS + (points.H1 - xS) * s1;
+  line(xS, yS, points.H2, yS);
+  line(xS, yS, points.H1, y1);
+  line(points.H1, y1, raysEnd, y1);
+
+  const Variant s2 = -yS / Variant(points.F2 - points.H2);
+  line(points.H2, yS, raysEnd, yS + (raysEnd - points.H2) * s2);
+
+  const Variant s3 = -yS / (points.N1 - xS);
+  line(xS, yS, points.N1, 0);
+  line(points.N2, 0, raysEnd, (raysEnd - points.N2) * s3);
+
+  const Variant x = points.H2 + (y1 - yS) / s2;
+  canvas.DrawWidth(15);
+  canvas.PSet(x.value(), y1.value(), colour);
+  canvas.DrawWidth(1);
+}
+
+void drawCardinalLabels(Canvas& canvas, const CardinalPoints& points) {
+  const auto label = [&](double x, double y, const char* text) {
+    canvas.CurrentX(x);
+    canvas.CurrentY(y);
+    canvas.Print(text);
+  };
+  canvas.FontSize(13.0);
+  label(points.H1, 150.0, "H1");
+  label(points.H2, 150.0, "H2");
+  label(points.F1, -2.0, "F1");
+  label(points.F2, -2.0, "F2");
+  label(points.N1, -2.0, "N1");
+  label(points.N2, -2.0, "N2");
+  canvas.FontSize(10.0);
+}
+
+void xaraktiristikasimeia() {
+  Workbench& bench = workbench();
+  const CardinalPoints points = cardinalPoints(bench.fakos(), bench.deiktisdiathlasis());
+  drawCardinalMarks(bench.canvas(), points);
+  drawConstruction(bench.canvas(), points, bench.pigi());
+  drawCardinalLabels(bench.canvas(), points);
+}
+
+}  // namespace lensbench::poreiaaktinon

@@ -1,0 +1,61 @@
+#include "optics/poreiaaktinon/Refraction.h"
+
+#include <cmath>
+
+#include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Vector.h"
+
+namespace lensbench::poreiaaktinon {
+
+Variant sxetikosdeiktis(const Variant& dx, const Variant& dy, const Variant& px, const Variant& py,
+                        const Variant& cx, const Variant& cy, const Variant& r, const Variant& n) {
+  const SinglePair u = kathetos(px, py, cx, cy, r);
+  if (dx * u.x + dy * u.y < 0) return n;
+  return 1 / n;
+}
+
+DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Variant& px,
+                              const Variant& py, const Variant& cx, const Variant& cy,
+                              const Variant& r, const Variant& n) {
+  const Variant tx = (py - cy) / r;
+  const Variant ty = (cx - px) / r;
+  const Variant T0 = dx * tx + dy * ty;
+  const Variant N0 = dy * tx - dx * ty;
+  const Variant a1 = gonia(dx, dy, tx, ty);
+  const Variant v = sxetikosdeiktis(dx, dy, px, py, cx, cy, r, n);
+  const Variant s = Sin(a1);
+  if (Abs(s / v) > 1) return {};
+
+  const Variant a2 = toxoimitonou(s / v);
+  const Variant T = prosimo(T0) * Abs(Sin(a2));
+  const Variant N = prosimo(N0) * Abs(Cos(a2));
+  return {toSingle((T * tx - N * ty).value()), toSingle((T * ty + N * tx).value()), boolean(true)};
+}
+
+DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
+                                        const Variant& x0, const Variant& y0, const Variant& dx,
+                                        const Variant& dy) {
+  const auto stop = stoppedAt({X.value(), yA.value(), yB.value()}, {x0.value(), y0.value()},
+                              {dx.value(), dy.value()});
+  const Point point = stop.value_or(Point{x0.value(), y0.value()});
+  return {toSingle(point.x), toSingle(point.y), boolean(stop.has_value())};
+}
+
+std::optional<Point> stoppedAt(const Diafragma& diafragma, Point start, Point direction) {
+  const double y = direction.x == 0.0
+                       ? start.y
+                       : start.y + (diafragma.X - start.x) * (direction.y / direction.x);
+  if (y > diafragma.yA || y < diafragma.yB) return Point{diafragma.X, y};
+  return std::nullopt;
+}
+
+std::optional<Point> refracted(Point direction, Point normal, double ratio) {
+  const Point tangent = turned(normal);
+  const double sine = ratio * dot(direction, tangent);
+  if (std::fabs(sine) > 1.0) return std::nullopt;
+  const double cosine =
+      std::copysign(std::sqrt((1.0 - sine) * (1.0 + sine)), dot(direction, normal));
+  return sine * tangent + cosine * normal;
+}
+
+}  // namespace lensbench::poreiaaktinon

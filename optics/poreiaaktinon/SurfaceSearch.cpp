@@ -1,0 +1,139 @@
+#include "optics/poreiaaktinon/SurfaceSearch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "optics/poreiaaktinon/Intersection.h"
+#include "optics/poreiaaktinon/Vector.h"
+
+namespace lensbench::poreiaaktinon {
+namespace {
+
+// How far from its face a point may be, in radii, and still stand on it.
+constexpr double onFace = 0.0005;
+
+struct Disc {
+  Point centre;
+  double radius;
+  Face face;
+};
+Disc disc1(const Fakos& fakos) { return {{fakos.xc1, 0.0}, fakos.R1, Face::Right}; }
+Disc disc2(const Fakos& fakos) { return {{fakos.xc2, 0.0}, fakos.R2, Face::Left}; }
+
+// Where a line runs inside a disc. It is measured from the foot of the perpendicular from the
+// centre, so that its ends lie on the circle however far away or steep the ray is.
+struct Chord {
+  Point foot;     // relative to the centre
+  double middle;  // distance from the start to the foot along the ray
+  double half;    // half the chord; 0 when the line does not enter the disc
+
+  double enter() const { return middle - half; }
+  double leave() const { return middle + half; }
+};
+
+Chord chordOf(const Disc& disc, Point start, Point direction) {
+  const Point fromCentre = start - disc.centre;
+  const Point side = turned(direction);
+  const double q = dot(fromCentre, side);
+  const double rest = (disc.radius - q) * (disc.radius + q);
+  return {q * side, -dot(fromCentre, direction), rest > 0.0 ? std::sqrt(rest) : 0.0};
+}
+
+Crossing crossingAt(const Disc& disc, const Chord& chord, Point direction, bool entering) {
+  const double along = entering ? -chord.half : chord.half;
+  const Point fromCentre = chord.foot + along * direction;
+  return {disc.centre + fromCentre, (1.0 / disc.radius) * fromCentre, disc.face, entering};
+}
+
+bool within(const Disc& disc, Point p, double radii) {
+  const double limit = radii * disc.radius;
+  const Point fromCentre = p - disc.centre;
+  return dot(fromCentre, fromCentre) <= limit * limit;
+}
+
+bool circlesCross(const Fakos& fakos) {
+  return tomikyklonaxona(fakos.xc1, fakos.xc2, fakos.R1, fakos.R2).found != 0;
+}
+
+bool meetsBothCircles(const Fakos& fakos, Point start, Point direction) {
+  return chordOf(disc1(fakos), start, direction).half > 0.0 &&
+         chordOf(disc2(fakos), start, direction).half > 0.0;
+}
+
+}  // namespace
+
+bool hasLens(const Fakos& fakos) {
+  const double thickness = (fakos.xc1 + fakos.R1) - (fakos.xc2 - fakos.R2);
+  return fakos.R1 > 0.0 && fakos.R2 > 0.0 && thickness > 0.0 && circlesCross(fakos);
+}
+
+std::optional<Crossing> firstCrossing(const Fakos& fakos, Point start, Point direction) {
+  const Disc one = disc1(fakos);
+  const Disc two = disc2(fakos);
+  const Chord chord1 = chordOf(one, start, direction);
+  const Chord chord2 = chordOf(two, start, direction);
+  if (chord1.half == 0.0 || chord2.half == 0.0) return std::nullopt;
+
+  double enter1 = chord1.enter();
+  double enter2 = chord2.enter();
+  if (within(one, start, 1.0 + onFace) && within(two, start, 1.0 + onFace)) {
+    constexpr double behind = -std::numeric_limits<double>::infinity();
+    if (!within(one, start, 1.0 - onFace)) {
+      if (chord1.middle <= 0.0) return std::nullopt;
+      enter1 = behind;
+    }
+    if (!within(two, start, 1.0 - onFace)) {
+      if (chord2.middle <= 0.0) return std::nullopt;
+      enter2 = behind;
+    }
+  }
+
+  const double leave = std::min(chord1.leave(), chord2.leave());
+  const double enter = std::max(enter1, enter2);
+  if (leave <= 0.0 || leave <= enter) return std::nullopt;
+  if (enter > 0.0) {
+    return enter1 > enter2 ? crossingAt(one, chord1, direction, true)
+                           : crossingAt(two, chord2, direction, true);
+  }
+  return chord1.leave() < chord2.leave() ? crossingAt(one, chord1, direction, false)
+                                         : crossingAt(two, chord2, direction, false);
+}
+
+Crossing exitCrossing(const Fakos& fakos, Point start, Point direction) {
+  const Disc one = disc1(fakos);
+  const Disc two = disc2(fakos);
+  const Chord chord1 = chordOf(one, start, direction);
+  const Chord chord2 = chordOf(two, start, direction);
+  return chord1.leave() < chord2.leave() ? crossingAt(one, chord1, direction, false)
+                                         : crossingAt(two, chord2, direction, false);
+}
+
+void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
+                     const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
+                     const Variant& px, const Variant& py, const Variant& tag) {
+  diadromiaktinas2(result, xc1, xc2, R1, R2, dx, dy, px, py);
+  const Fakos fakos{xc1.value(), R1.value(), xc2.value(), R2.value()};
+  if (!circlesCross(fakos)) return;
+  result.tag = toInteger(tag.value());
+  const Point direction{dx.value(), dy.value()};
+  if (!workbenchConnected() || isZero(direction)) return;
+  if (meetsBothCircles(fakos, {px.value(), py.value()}, unit(direction))) {
+    workbench().canvas().DrawWidth(1);
+  }
+}
+
+void diadromiaktinas2(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
+                      const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
+                      const Variant& px, const Variant& py) {
+  const Fakos fakos{xc1.value(), R1.value(), xc2.value(), R2.value()};
+  const Point start{px.value(), py.value()};
+  const Point direction{dx.value(), dy.value()};
+  result = {start.x, start.y, 0, 0};
+  if (isZero(direction) || !circlesCross(fakos)) return;
+  const auto crossing = firstCrossing(fakos, start, unit(direction));
+  if (!crossing || isZero(crossing->point)) return;
+  result = {crossing->point.x, crossing->point.y, boolean(true), 0};
+}
+
+}  // namespace lensbench::poreiaaktinon
