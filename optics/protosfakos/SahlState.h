@@ -33,6 +33,7 @@ struct SahlState {
   PerRay<Variant> entryX, entryY;        // where a recorded ray enters the glass, user units
   PerRay<Variant> exitX, exitY;          // where it leaves it
   PerRay<float> directionX, directionY;  // its emerging direction, negated
+  bool onlyWavesAsked = false;           // "ONLY WAVES" was chosen and no press came after it
   bool negativeShown = false;            // the message of the wave routines, once for a scene
 
   // Forgets the rays of the scene before; their wave points are left to be overwritten.
