@@ -1,0 +1,217 @@
+#include "screens/ElSahl/ElSahl.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "canvas/qt/Dialogs.h"
+#include "optics/protosfakos/Fronts.h"
+#include "optics/protosfakos/SahlState.h"
+#include "optics/protosfakos/Scenes.h"
+#include "screens/Answers.h"
+#include "screens/Handlers.h"
+
+namespace lensbench {
+
+using protosfakos::Diafragma;
+using protosfakos::HyperbolaAxes;
+using protosfakos::SahlState;
+using protosfakos::state;
+
+namespace {
+
+constexpr int leftButton = 1;
+constexpr int arrow = 1;
+constexpr int cross = 2;
+constexpr double strokeX = 130.0;
+constexpr double halfOpening = 10.0;
+constexpr double outerEnd = 200.0;
+
+const FormDesign design{"ElSahl", "Φακός Ιμπν Σαχλ 2 υπεροβλές", 165, 855, 15240, 3525, white};
+
+}  // namespace
+
+ElSahl::ElSahl(Moves& moves) : Form(design), moves_(moves), controls_(*this), view_(*this) {
+  drawingArea()->setAccessibleName(
+      QStringLiteral("Υπερβολικός φακός, πάτησε για να βάλεις την πηγή · "
+                     "Hyperbolic lens, press to place the source"));
+  connectHandlers();
+  Form_Load();
+}
+
+void ElSahl::connectHandlers() {
+  SahlControls& c = controls_;
+  on<Form>(*this, &Form::MouseDown, *this, &ElSahl::Form_MouseDown);
+  on<Form>(*this, &Form::MouseMove, *this, &ElSahl::Form_MouseMove);
+  on<Form>(*this, &Form::MouseUp, *this, &ElSahl::Form_MouseUp);
+  on<Form>(*this, &Form::Resized, *this, &ElSahl::resized);
+  on<Form>(*this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
+  on(c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
+  on(c.RAYSANDWAVES, &OptionButton::Click, *this, &ElSahl::RAYSANDWAVES_Click);
+  on(c.kymatikosahl, &MenuEntry::Click, *this, &ElSahl::kymatikosahl_Click);
+  on(c.parallilidesmifotos, &MenuEntry::Click, *this, &ElSahl::parallilidesmifotos_Click);
+  on(c.BACKKELMO, &MenuEntry::Click, *this, &ElSahl::BACKKELMO_Click);
+  on(c.TELOS, &MenuEntry::Click, *this, &ElSahl::TELOS_Click);
+}
+
+void ElSahl::Form_Load() { strokesAt(strokeX); }
+
+void ElSahl::prepare() {
+  untouched_ = false;
+  AutoRedraw(true);
+  Top(0);
+  Left(0);
+  Height(QGuiApplication::primaryScreen()->geometry().height() * twipsPerPixel / 1.5);
+  Width(Height());
+  Show();
+  // Only a window that is shown has the client area that the scale is for.
+  setScale();
+  strokesAt(strokeX);
+  untouched_ = true;
+}
+
+void ElSahl::resized() {
+  // The window manager settles the size of a new window only after it is shown; until something is
+  // done by hand the scene fits itself to every size. Later the picture stays.
+  if (!untouched_ || state().pigiX.isEmpty()) return;
+  setScale();
+  strokesAt(strokeX);
+  redrawFan();
+}
+
+void ElSahl::strokesAt(double x) { placeEdges({x, halfOpening, -halfOpening}); }
+
+void ElSahl::placeEdges(const Diafragma& diafragma) {
+  const auto place = [&](LineControl& edge, double outer, double inner) {
+    edge.X1(diafragma.X);
+    edge.X2(diafragma.X);
+    edge.Y1(outer);
+    edge.Y2(inner);
+  };
+  place(controls_.Line1, outerEnd, diafragma.upper);
+  place(controls_.Line2, -outerEnd, diafragma.lower);
+}
+
+void ElSahl::setScale() { canvas().Scale(-120, 120, 150, -120); }
+
+Point ElSahl::inLensScale(Point p) {
+  const UserMapping before = canvas().mapping();
+  setScale();
+  const UserMapping after = canvas().mapping();
+  const bool same = before.left == after.left && before.top == after.top &&
+                    before.xPixels == after.xPixels && before.yPixels == after.yPixels;
+  return same ? p : after.toUser(before.toPixel(p));
+}
+
+void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
+  if (Button != leftButton) return;
+  untouched_ = false;
+  state().onlyWavesAsked = false;
+  const Point p = inLensScale({X, Y});
+  atPress_ = view_.diafragma();
+  syromenigrammi1 = liesOn(p, controls_.Line1);
+  syromenigrammi2 = !syromenigrammi1 && liesOn(p, controls_.Line2);
+  if (syromenigrammi1 || syromenigrammi2) return;
+  const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
+  if (!lens) return;
+  canvas().Cls();
+  state().pigiX = p.x;
+  state().pigiY = p.y;
+  drawFan(*lens);
+}
+
+void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
+  const Point p{X, Y};
+  if (syromenigrammi1 || syromenigrammi2) dragTo(p);
+  const bool onEdge = syromenigrammi1 || liesOn(p, controls_.Line1) || liesOn(p, controls_.Line2);
+  MousePointer(onEdge ? cross : arrow);
+}
+
+void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
+  if (Button != leftButton) return;
+  const Point p = inLensScale({X, Y});
+  if (!syromenigrammi1 && !syromenigrammi2) return;
+  dragTo(p);
+  syromenigrammi1 = false;
+  syromenigrammi2 = false;
+  redrawFan();
+}
+
+void ElSahl::dragTo(Point p) {
+  placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, canvas()));
+}
+
+void ElSahl::kymataYESNO_Click() {
+  state().onlyWavesAsked = true;
+  controls_.kymataYESNO.Value(true);
+  controls_.RAYSANDWAVES.Value(false);
+}
+
+void ElSahl::RAYSANDWAVES_Click() {
+  controls_.kymataYESNO.Value(false);
+  controls_.RAYSANDWAVES.Value(true);
+}
+
+void ElSahl::kymatikosahl_Click() {
+  untouched_ = false;
+  const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
+  if (!lens) return;
+  drawFan(*lens);
+  const int rays = static_cast<int>(state().plithosaktinon.value());
+  for (int k = 1; k < rays; ++k) {
+    if (state().desmiMode) {
+      protosfakos::kymatadesmis({}, {}, k);
+    } else {
+      protosfakos::kymatapigis(k);
+    }
+  }
+  protosfakos::drawFronts(canvas(), {});
+}
+
+void ElSahl::parallilidesmifotos_Click() {
+  const auto answer = dialogs().InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
+                                         QStringLiteral("Angle in °"), QStringLiteral("0"));
+  if (!answer) return;
+  untouched_ = false;
+  const auto lens = lensOr(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"));
+  if (!lens) return;
+  const Variant pi = 4 * Atn(1);
+  const Variant m = Tan(pi * numberFromAnswer(*answer) / 180);
+  canvas().Cls();
+  if (state().amfikyrtosSahl) {
+    protosfakos::desmiamfikyrtou(lens->a, lens->b, m);
+  } else {
+    protosfakos::desmiepipedokyrtou(lens->a, lens->b, m);
+  }
+}
+
+void ElSahl::BACKKELMO_Click() {
+  untouched_ = false;
+  canvas().Cls();
+  moves_.leaveIbnSahl();
+}
+
+void ElSahl::TELOS_Click() { moves_.End(); }
+
+void ElSahl::drawFan(const HyperbolaAxes& lens) {
+  const SahlState& shared = state();
+  if (shared.amfikyrtosSahl) {
+    protosfakos::sxediasiamfikyrtou(lens.a, lens.b, shared.pigiX, shared.pigiY);
+  } else {
+    protosfakos::sxediasiepipedokyrtou(lens.a, lens.b, shared.pigiX, shared.pigiY);
+  }
+}
+
+void ElSahl::redrawFan() {
+  const auto lens = protosfakos::deriveLens(state().deiktisSahl);
+  if (!lens) return;
+  canvas().Cls();
+  drawFan(*lens);
+}
+
+std::optional<HyperbolaAxes> ElSahl::lensOr(const QString& message) {
+  const auto lens = protosfakos::deriveLens(state().deiktisSahl);
+  if (!lens) dialogs().MsgBox(message);
+  return lens;
+}
+
+}  // namespace lensbench

@@ -1,0 +1,80 @@
+#include "screens/eisagogiko/MenuControls.h"
+
+#include <algorithm>
+
+namespace lensbench {
+namespace {
+
+constexpr int gap = 7;           // between buttons that would touch, pixels
+constexpr int labelWidth = 260;  // holds the longest text of the label in two lines, pixels
+
+}  // namespace
+
+MenuControls::MenuControls(Form& form)
+    : Command1(form, "Command1", {120, 600, 2220, 855}),
+      Command2(form, "Command2", {2280, 600, 2295, 855}),
+      deiktissahl(form, "deiktissahl", Qt::Horizontal, {360, 2280, 2535, 375}),
+      Command3(form, "Command3", {4680, 600, 2175, 855}),
+      Label1(form, "Label1", {3120, 2160, 1575, 735}) {
+  deiktissahl.Min(100);
+  deiktissahl.Max(250);
+  deiktissahl.Value(150);
+  deiktissahl.LargeChange(20);
+  deiktissahl.SmallChange(1);
+  setTexts();
+  makeRoom();
+  describeAll();
+  setTabOrder();
+}
+
+void MenuControls::setTexts() {
+  for (CommandButton* button : {&Command1, &Command2, &Command3}) {
+    button->FontName("Times New Roman");
+    button->FontSize(7.5);
+  }
+  Command1.Caption("Αμφίκυρτος ΥΠΕΡΒΟΛΙΚΟΣ BICONVEX HYPERBOLIC ");
+  Command2.Caption("Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ PLANE CONVEX HYPERBOLIC");
+  Command3.Caption("ΣΦΑΙΡΙΚΟΙ ΦΑΚΟι SPHERICAL LENSES");
+  Label1.FontName("Arial");
+  Label1.FontSize(8.25);
+}
+
+// The buttons stand side by side and equally high, and the label holds the longest of its texts.
+void MenuControls::makeRoom() {
+  CommandButton* buttons[] = {&Command1, &Command2, &Command3};
+  int height = 0;
+  for (const CommandButton* button : buttons) height = std::max(height, button->height());
+  int free = 0;
+  for (CommandButton* button : buttons) {
+    button->setGeometry(std::max(button->x(), free), button->y(), button->width(), height);
+    free = button->x() + button->width() + gap;
+  }
+  Label1.resize(std::max(Label1.width(), labelWidth), Label1.height());
+  Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void MenuControls::describeAll() {
+  describe(Command1, "Αμφίκυρτος υπερβολικός φακός · Biconvex hyperbolic lens",
+           "Ανοίγει τον αμφίκυρτο φακό του Ιμπν Σαχλ με αυτόν τον δείκτη.\n"
+           "Opens Ibn Sahl's biconvex lens with this index.");
+  describe(Command2, "Επιπεδόκυρτος υπερβολικός φακός · Plano-convex hyperbolic lens",
+           "Ανοίγει τον επιπεδόκυρτο φακό του Ιμπν Σαχλ με αυτόν τον δείκτη.\n"
+           "Opens Ibn Sahl's plano-convex lens with this index.");
+  describe(deiktissahl, "Δείκτης διάθλασης · Index of refraction",
+           "Αλλάζει τον δείκτη διάθλασης των υπερβολικών φακών· φαίνεται στην επόμενη σχεδίαση.\n"
+           "Changes the index of refraction of the hyperbolic lenses; seen at the next drawing.");
+  describe(Command3, "Σφαιρικοί φακοί · Spherical lenses",
+           "Κλείνει τον κατάλογο και γυρίζει στους σφαιρικούς φακούς.\n"
+           "Closes the menu and goes back to the spherical lenses.");
+  describe(Label1, "Δείκτης διάθλασης · Index of refraction",
+           "Ο δείκτης διάθλασης των υπερβολικών φακών.\n"
+           "The index of refraction of the hyperbolic lenses.");
+}
+
+void MenuControls::setTabOrder() {
+  QWidget::setTabOrder(&Command1, &Command2);
+  QWidget::setTabOrder(&Command2, &deiktissahl);
+  QWidget::setTabOrder(&deiktissahl, &Command3);
+}
+
+}  // namespace lensbench

@@ -1,0 +1,34 @@
+// The lens menu: which kind of lens, and the index of refraction of the hyperbolic ones.
+#pragma once
+
+#include "canvas/qt/Form.h"
+#include "screens/Moves.h"
+#include "screens/eisagogiko/MenuControls.h"
+
+namespace lensbench {
+
+class eisagogiko : public Form {
+ public:
+  explicit eisagogiko(Moves& moves);
+
+  MenuControls& controls() { return controls_; }
+
+  // Handlers, named after control and event.
+  void Form_Load();
+  void deiktissahl_Change();
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
+
+ private:
+  void connectHandlers();
+  double index() const;
+  // Clears the Ibn Sahl screen and draws there one of the lenses with a fan from its first source;
+  // for an index below 1 a message, and nothing is drawn.
+  void openLens(bool biconvex);
+
+  Moves& moves_;
+  MenuControls controls_;
+};
+
+}  // namespace lensbench
