@@ -106,13 +106,14 @@ void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const
       canvas, tracePath(setup, {px.value(), py.value()}, {dx.value(), dy.value()}, phase.value()));
 }
 
-void bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1, const Variant& R2,
-                     const Variant& xs, const Variant& ys) {
+std::vector<RayPath> bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1,
+                                     const Variant& R2, const Variant& xs, const Variant& ys) {
   Workbench& bench = workbench();
   Setup setup = setupOf(bench);
   setup.fakos = fakosOf(xc1, xc2, R1, R2);
-  drawPaths(bench.canvas(), fanPaths(setup, {xs.value(), ys.value()}, bench.vima()),
-            bench.provoli());
+  std::vector<RayPath> rays = fanPaths(setup, {xs.value(), ys.value()}, bench.vima());
+  drawPaths(bench.canvas(), rays, bench.provoli());
+  return rays;
 }
 
 void poreiamiasaktinas(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "canvas/Canvas.h"
 #include "canvas/Variant.h"
@@ -32,9 +33,9 @@ void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const
                      const Variant& R2, const Variant& n, const Variant& phase = 0);
 
 // bentaliaaktinon: draws the fan from the source (xs, ys) on the workbench, with its index, step
-// and diaphragm, as rays, waves or both.
-void bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1, const Variant& R2,
-                     const Variant& xs, const Variant& ys);
+// and diaphragm, as rays, waves or both. Returns the rays, which moving waves go on with.
+std::vector<RayPath> bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1,
+                                     const Variant& R2, const Variant& xs, const Variant& ys);
 
 // poreiamiasaktinas: traces one ray from (px, py) along (dx, dy) and draws it in red on a canvas of
 // its own, with circle 1 about the origin and the diaphragm of the workbench. mode has no effect.

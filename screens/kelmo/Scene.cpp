@@ -5,6 +5,7 @@
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "optics/poreiaaktinon/Faces.h"
 #include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Intersection.h"
 
 namespace lensbench {
 namespace {
@@ -22,7 +23,7 @@ void drawFaces(const LensScene& scene) {
   poreiaaktinon::sxediasitoxou1(lens.xc1, lens.R1, lens.xc2, lens.R2, scene.bladeEnd.x,
                                 scene.bladeEnd.y);
   poreiaaktinon::sxediasitoxou2(lens.xc1, lens.R1, lens.xc2, lens.R2, scene.bladeEnd.x,
-                                scene.bladeEnd.y, scene.f);
+                                scene.bladeEnd.y, 0);
 }
 
 void drawFocalCircles(Canvas& canvas, const LensScene& scene) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "canvas/RuntimeError.h"
+#include "optics/poreiaaktinon/Wavefront.h"
 #include "screens/kelmo/Scene.h"
 
 namespace lensbench {
@@ -35,12 +36,12 @@ Front frontAt(const RaySet& set, double opticalPath) {
   std::optional<FrontPoint> previous;
   const auto join = [&front](const std::optional<FrontPoint>& a,
                              const std::optional<FrontPoint>& b) {
-    if (a && b && a->facesCrossed == b->facesCrossed) front.pieces.push_back({a->at, b->at});
+    if (a && b && a->crossed == b->crossed) front.pieces.push_back({a->position, b->position});
   };
   for (std::size_t i = 0; i < set.rays.size(); ++i) {
     const auto point = poreiaaktinon::pointAtOpticalPath(set.rays[i], opticalPath);
     if (i == 0) first = point;
-    if (point) front.points.push_back(point->at);
+    if (point) front.points.push_back(point->position);
     join(previous, point);
     previous = point;
   }
@@ -73,7 +74,10 @@ void WaveAnimation::draw(poreiaaktinon::Workbench& workbench, int step) {
   Canvas& canvas = workbench.canvas();
   const double n = workbench.deiktisdiathlasis();
   if (set_.rays.front().n != n) {
-    for (auto& ray : set_.rays) ray = poreiaaktinon::retraced(ray, workbench);
+    const auto setup = poreiaaktinon::setupOf(workbench);
+    for (auto& ray : set_.rays) {
+      ray = poreiaaktinon::tracePath(setup, ray.points[0], ray.directions[0], ray.phase);
+    }
   }
 
   for (const Front& front : drawn_) drawFront(canvas, front, white);

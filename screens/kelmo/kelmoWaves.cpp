@@ -1,5 +1,6 @@
 // Bundles of parallel rays, and the waves that move on the workbench.
 #include "canvas/qt/Dialogs.h"
+#include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "optics/protosfakos/SahlState.h"
 #include "screens/Answers.h"
@@ -39,7 +40,7 @@ void kelmo::drawBundle(const Variant& angle) {
   protosfakos::state().desmiMode = true;
   clearAndDraw();
   RaySet set = bundle(angle);
-  for (const auto& path : set.rays) poreiaaktinon::drawRay(canvas(), path, workbench_.provoli());
+  poreiaaktinon::drawPaths(canvas(), set.rays, workbench_.provoli());
   animation_.start(std::move(set));
 }
 
@@ -48,12 +49,16 @@ void kelmo::desmiMinusOne() { drawBundle(-1); }
 void kelmo::desmiPlusOne() { drawBundle(1); }
 
 RaySet kelmo::bundle(const Variant& angle) {
-  return {poreiaaktinon::bundlePaths(workbench_, angle.value(), controls_.desmi1.Value()), false};
+  return {poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(workbench_), angle.value(),
+                                     controls_.desmi1.Value()),
+          false};
 }
 
 RaySet kelmo::fan() {
-  WaveAnimation::requireRoomFor(poreiaaktinon::fanSize(workbench_.vima()));
-  return {poreiaaktinon::fanPaths(workbench_), true};
+  WaveAnimation::requireRoomFor(static_cast<std::size_t>(poreiaaktinon::rayCount(vima.value())));
+  return {
+      poreiaaktinon::fanPaths(poreiaaktinon::setupOf(workbench_), workbench_.pigi(), vima.value()),
+      true};
 }
 
 void kelmo::drawWaveScene() {
