@@ -1,5 +1,6 @@
-// Where the controls of the workbench stand: the lens block at the top left, one column for each
-// circle and one for light, the diaphragm's sliders along the edges that its blades move against.
+// Where the controls of the workbench stand: the two circles at the top left, the light at the top
+// right, the hints and the diaphragm's texts at the bottom, and its sliders along the edges that
+// its blades move against. The middle is left free for the blades at their start.
 #include <algorithm>
 #include <initializer_list>
 
@@ -31,9 +32,11 @@ void KelmoControls::arrange(int width, int height) {
       std::max(Text2.widthForText(QStringLiteral("Index of Refraction Δείκτης Διάθλασης= 2.50")),
                Text1.widthForText(QStringLiteral("Number of Rays Αριθμός ακτινών= 3437.00")));
 
+  const int barLeft = width - barThickness;
   const int column1 = gap;
   const int column2 = column1 + sliderLength + gap + circle1Text + 2 * gap;
-  const int column3 = column2 + sliderLength + gap + circle2Text + 2 * gap;
+  const int column2Right = column2 + sliderLength + gap + circle2Text;
+  const int column3 = barLeft - gap - lightText - gap - sliderLength;
 
   placeRow(aktina1, Text6, column1, top, circle1Text);
   kentrokykloy2.setGeometry(column1, top + row + (rowHeight - barThickness) / 2, sliderLength,
@@ -44,11 +47,10 @@ void KelmoControls::arrange(int width, int height) {
   placeRow(desmi1, Text1, column3, top + row, lightText);
   placeRow(arvimaton, Label3, column3, top + 2 * row, lightText);
   Check1.setGeometry(column1, top + 2 * row, column2 - column1 - gap, rowHeight);
-  Check2.setGeometry(column2, top + 2 * row, column3 - column2 - gap, rowHeight);
+  Check2.setGeometry(column2, top + 2 * row, column2Right - column2, rowHeight);
 
   // Each vertical bar spans the half that its blade moves in, so that thumbs stand at blade ends.
   const int axis = height / 2;
-  const int barLeft = width - barThickness;
   HScroll1.setGeometry(0, height - barThickness, width, barThickness);
   VScroll1.setGeometry(barLeft, 0, barThickness, axis);
   VScroll2.setGeometry(barLeft, axis, barThickness, height - barThickness - axis);
@@ -60,14 +62,15 @@ void KelmoControls::arrange(int width, int height) {
   Text4.setGeometry(diaphragmLeft, bottom - rowHeight, diaphragmText, rowHeight);
   Text3.setGeometry(diaphragmLeft, bottom - rowHeight - row, diaphragmText, rowHeight);
 
-  // The two hints share what is left of the bottom strip.
-  const int hintWidth = std::clamp((diaphragmLeft - 3 * gap) / 2, 120, 360);
-  int x = gap;
-  for (Label* hint : {&Label1, &Label2}) {
-    const int needed = hint->heightForWidth(hintWidth);
-    hint->setGeometry(x, bottom - needed, hintWidth, needed);
-    x += hintWidth + 2 * gap;
-  }
+  // One hint on each side of the middle.
+  const int middle = width / 2;
+  const int hintWidth = std::clamp(diaphragmLeft - middle - 4 * gap, 120, 360);
+  const auto placeHint = [&](Label& hint, int x) {
+    const int needed = hint.heightForWidth(hintWidth);
+    hint.setGeometry(x, bottom - needed, hintWidth, needed);
+  };
+  placeHint(Label1, column1);
+  placeHint(Label2, diaphragmLeft - 2 * gap - hintWidth);
 }
 
 }  // namespace lensbench
