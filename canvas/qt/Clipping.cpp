@@ -1,5 +1,8 @@
 #include "canvas/qt/Clipping.h"
 
+#include <cmath>
+#include <utility>
+
 namespace lensbench {
 namespace {
 
@@ -16,6 +19,8 @@ bool cut(long double along, long double room, long double& enter, long double& l
   return enter <= leave;
 }
 
+long double farness(FarPoint p) { return std::fabs(p.x) + std::fabs(p.y); }
+
 Point at(FarPoint from, long double dx, long double dy, long double t) {
   return {static_cast<double>(from.x + t * dx), static_cast<double>(from.y + t * dy)};
 }
@@ -23,6 +28,12 @@ Point at(FarPoint from, long double dx, long double dy, long double t) {
 }  // namespace
 
 std::optional<Segment> clipped(FarPoint from, FarPoint to, const Box& box) {
+  // Measured from its nearer end, a way of any length keeps the digits that matter in the box.
+  if (farness(from) > farness(to)) {
+    auto backwards = clipped(to, from, box);
+    if (backwards) std::swap(backwards->from, backwards->to);
+    return backwards;
+  }
   const long double dx = to.x - from.x;
   const long double dy = to.y - from.y;
   long double enter = 0.0L;

@@ -8,6 +8,8 @@ ScrollBar::ScrollBar(Form& form, const QString& name, Qt::Orientation orientatio
                      const Place& place)
     : Control(form, name, place, orientation) {
   setFocusPolicy(Qt::StrongFocus);
+  // The toolkit's scroll bars take the right arrow key for less; these hold quantities.
+  if (orientation == Qt::Horizontal) setInvertedControls(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   connect(this, &QScrollBar::valueChanged, this, &ScrollBar::Change);
 }

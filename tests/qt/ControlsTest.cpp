@@ -1,0 +1,250 @@
+#include <gtest/gtest.h>
+#include <vector>
+
+#include <QMenuBar>
+#include <QStyleHints>
+#include <QTest>
+
+#include "canvas/qt/CheckBox.h"
+#include "canvas/qt/CommandButton.h"
+#include "canvas/qt/Label.h"
+#include "canvas/qt/MenuEntry.h"
+#include "canvas/qt/OptionButton.h"
+#include "canvas/qt/ScrollBar.h"
+#include "canvas/qt/TextBox.h"
+
+namespace lensbench {
+namespace {
+
+const FormDesign design{"kelmo", "", 0, 0, 9000, 6000, white};
+
+class Controls : public testing::Test {
+ protected:
+  Form form{design};
+};
+
+TEST_F(Controls, StandAtTheirDesignedPlacesUnderTheirNames) {
+  const ScrollBar bar(form, "aktina1", Qt::Horizontal, {0, 360, 2775, 375});
+  const TextBox text(form, "Text6", {2760, 360, 1335, 375});
+  EXPECT_EQ(bar.objectName(), "aktina1");
+  EXPECT_EQ(bar.geometry(), QRect(0, 24, 185, 25));
+  EXPECT_EQ(bar.parentWidget(), form.drawingArea());
+  EXPECT_EQ(text.geometry(), QRect(184, 24, 89, 25));
+  EXPECT_EQ(form.findChild<QWidget*>("Text6"), &text);
+}
+
+TEST_F(Controls, AScrollBarFiresChangeOncePerNewValue) {
+  ScrollBar bar(form, "deiktissahl", Qt::Horizontal, {0, 0, 2535, 375});
+  std::vector<int> told;
+  bar.Min(100);
+  bar.Max(250);
+  QObject::connect(&bar, &ScrollBar::Change, [&] { told.push_back(bar.Value()); });
+  bar.Value(150);
+  bar.Value(150);
+  bar.Value(400);
+  EXPECT_EQ(told, (std::vector<int>{150, 250}));
+  bar.LargeChange(20);
+  bar.SmallChange(1);
+  EXPECT_EQ(bar.LargeChange(), 20);
+  QTest::keyClick(&bar, Qt::Key_PageDown);
+  EXPECT_EQ(bar.Value(), 230);
+  QTest::keyClick(&bar, Qt::Key_Left);
+  EXPECT_EQ(bar.Value(), 229);
+  EXPECT_EQ(told.size(), 4u);
+  EXPECT_EQ(bar.Min(), 100);
+  EXPECT_EQ(bar.Max(), 250);
+}
+
+TEST_F(Controls, AScrollBarReportsWhileItIsDragged) {
+  ScrollBar bar(form, "HScroll1", Qt::Horizontal, {0, 0, 9000, 300});
+  bar.Min(-100);
+  bar.Max(100);
+  form.Show();
+  int told = 0;
+  QObject::connect(&bar, &ScrollBar::Change, [&] { ++told; });
+  const QPoint thumb = bar.rect().center();
+  QTest::mousePress(&bar, Qt::LeftButton, {}, thumb);
+  for (int i = 1; i <= 5; ++i) QTest::mouseMove(&bar, thumb + QPoint(20 * i, 0));
+  EXPECT_GE(told, 4);
+  EXPECT_GT(bar.Value(), 0);
+  QTest::mouseRelease(&bar, Qt::LeftButton, {}, thumb + QPoint(100, 0));
+}
+
+TEST_F(Controls, AVerticalScrollBarGrowsDownwards) {
+  ScrollBar bar(form, "VScroll1", Qt::Vertical, {0, 0, 300, 3000});
+  bar.Min(-100);
+  bar.Max(0);
+  bar.Value(-50);
+  QTest::keyClick(&bar, Qt::Key_Down);
+  EXPECT_EQ(bar.Value(), -49);
+}
+
+TEST_F(Controls, ATextBoxShowsItsTextAndCannotBeWrittenIn) {
+  TextBox box(form, "Text2", {0, 0, 2175, 375});
+  box.Text("Index of Refraction n = 1.50");
+  QTest::keyClicks(&box, "99");
+  EXPECT_EQ(box.Text(), "Index of Refraction n = 1.50");
+  EXPECT_EQ(box.cursorPosition(), 0);
+  EXPECT_GT(box.widthForText("Index of Refraction n = 1.50"),
+            box.fontMetrics().horizontalAdvance("Index of Refraction n = 1.50"));
+}
+
+TEST_F(Controls, AWidthForATextShowsTheWholeOfIt) {
+  TextBox box(form, "Text2", {0, 0, 300, 375});
+  for (const char* words : {"Text2 =", "Index of Refraction Δείκτης Διάθλασης= 1.50"}) {
+    box.Text(words);
+    box.resize(box.widthForText(words), box.height());
+    // A text that does not fit is scrolled when the cursor goes to its end.
+    const auto firstSeen = [&] {
+      box.end(false);
+      box.grab();
+      return box.cursorPositionAt({4, box.height() / 2});
+    };
+    EXPECT_EQ(firstSeen(), 0);
+    box.resize(box.width() - 12, box.height());
+    EXPECT_GT(firstSeen(), 0);
+  }
+}
+
+TEST_F(Controls, ALabelWrapsItsCaption) {
+  Label label(form, "Label1", {0, 0, 1575, 735});
+  label.Caption("Index of Refraction n=1.50");
+  EXPECT_EQ(label.Caption(), "Index of Refraction n=1.50");
+  EXPECT_TRUE(label.wordWrap());
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+}
+
+TEST_F(Controls, ACommandButtonClicksByMouseAndKeyboard) {
+  CommandButton button(form, "Command1", {4200, 120, 1335, 495});
+  button.Caption("Πίσω");
+  form.Show();
+  int clicks = 0;
+  QObject::connect(&button, &CommandButton::Click, [&] { ++clicks; });
+  QTest::mouseClick(&button, Qt::LeftButton);
+  QTest::keyClick(&button, Qt::Key_Space);
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(button.Caption(), "Πίσω");
+  EXPECT_EQ(button.text(), "Πίσω");
+}
+
+TEST_F(Controls, ALongCaptionWrapsAndTheButtonGrowsUntilNothingIsClipped) {
+  CommandButton button(form, "Command2", {0, 0, 1500, 300});
+  button.FontName("Times New Roman");
+  button.Caption("Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ & PLANE CONVEX HYPERBOLIC ");
+  EXPECT_EQ(button.Caption(), "Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ & PLANE CONVEX HYPERBOLIC ");
+  const QStringList lines = button.text().split('\n');
+  EXPECT_GT(lines.size(), 2);
+  EXPECT_EQ(lines.join(' ').replace("&&", "&"),
+            "Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ & PLANE CONVEX HYPERBOLIC");
+  EXPECT_EQ(button.width(), 100);
+  EXPECT_GE(button.height(), lines.size() * button.fontMetrics().lineSpacing());
+}
+
+TEST_F(Controls, ACheckBoxFiresClickByHandOnly) {
+  CheckBox box(form, "Check1", {0, 0, 3000, 375});
+  box.Caption("SHOW WAVES AND RAYS");
+  form.Show();
+  int clicks = 0;
+  QObject::connect(&box, &CheckBox::Click, [&] { ++clicks; });
+  EXPECT_FALSE(box.Value());
+  box.Value(true);
+  EXPECT_TRUE(box.Value());
+  EXPECT_EQ(clicks, 0);
+  QTest::keyClick(&box, Qt::Key_Space);
+  EXPECT_FALSE(box.Value());
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(box.Caption(), "SHOW WAVES AND RAYS");
+}
+
+TEST_F(Controls, OneOptionAtMostIsSelectedAndCodeMayClearIt) {
+  OptionButton rays(form, "onlyrays", {0, 0, 1500, 375});
+  OptionButton both(form, "RAYSANDWAVES", {1500, 0, 1500, 375});
+  rays.Caption("Only Rays");
+  form.Show();
+  int clicks = 0;
+  QObject::connect(&rays, &OptionButton::Click, [&] { ++clicks; });
+  both.Value(true);
+  QTest::mouseClick(&rays, Qt::LeftButton, {}, {8, 12});
+  EXPECT_TRUE(rays.Value());
+  EXPECT_FALSE(both.Value());
+  EXPECT_EQ(clicks, 1);
+  rays.Value(false);
+  EXPECT_FALSE(rays.Value());
+  both.Value(true);
+  rays.Value(true);
+  EXPECT_FALSE(both.Value());
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Controls, AMenuEntryStandsInTheBarAndClicks) {
+  MenuEntry waves(form, "parallilakymata", "// WAVES & KYMATA");
+  int clicks = 0;
+  QObject::connect(&waves, &MenuEntry::Click, [&] { ++clicks; });
+  form.Show();
+  QTest::qWait(20);
+  ASSERT_EQ(form.menuBar()->actions().size(), 1);
+  EXPECT_EQ(waves.objectName(), "parallilakymata");
+  EXPECT_EQ(waves.text(), "// WAVES && KYMATA");
+  EXPECT_EQ(waves.Caption(), "// WAVES & KYMATA");
+  QTest::mouseClick(form.menuBar(), Qt::LeftButton, {},
+                    form.menuBar()->actionGeometry(&waves).center());
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Controls, TheCheckMarkOfAMenuEntryIsSeenAndOnlyCodeSetsIt) {
+  MenuEntry waves(form, "parallilakymata", "WAVES");
+  EXPECT_FALSE(waves.Checked());
+  waves.Checked(true);
+  EXPECT_TRUE(waves.Checked());
+  EXPECT_NE(waves.text(), "WAVES");
+  EXPECT_EQ(waves.Caption(), "WAVES");
+  waves.trigger();
+  EXPECT_TRUE(waves.Checked());
+  waves.Checked(false);
+  EXPECT_EQ(waves.text(), "WAVES");
+}
+
+TEST_F(Controls, FontNamesResolveToInstalledFacesAndTextIsNeverTiny) {
+  TextBox box(form, "Text7", {0, 0, 3135, 375});
+  box.FontName("Times New Roman Greek");
+  box.FontSize(7.5);
+  EXPECT_EQ(box.FontName(), "Times New Roman Greek");
+  EXPECT_EQ(box.FontSize(), 7.5);
+  EXPECT_GE(box.font().pointSizeF(), 9.0);
+  EXPECT_TRUE(box.font().family().contains("Serif"));
+  box.FontName("Symbol");
+  EXPECT_FALSE(box.font().family().contains("Symbol"));
+  box.FontSize(13);
+  EXPECT_EQ(box.font().pointSizeF(), 13.0);
+  for (const char* name : {"Arial", "Arial Greek", "Times New Roman", "Symbol", ""}) {
+    const QFontMetrics metrics(controlFont(name, 10));
+    for (const QChar letter : QStringLiteral("ΑΩάώίϊσςφF1")) {
+      EXPECT_TRUE(metrics.inFont(letter)) << name;
+    }
+  }
+}
+
+TEST_F(Controls, WordsForThoseWhoCannotSeeThem) {
+  ScrollBar bar(form, "aktina1", Qt::Horizontal, {0, 0, 1500, 300});
+  describe(bar, "Ακτίνα · Radius", "Αλλάζει την ακτίνα. Changes the radius.");
+  EXPECT_EQ(bar.accessibleName(), "Ακτίνα · Radius");
+  EXPECT_EQ(bar.toolTip(), "Αλλάζει την ακτίνα. Changes the radius.");
+  MenuEntry entry(form, "TELIOMA", "END");
+  describe(entry, "Τέλος · End", "Τελειώνει. Ends.");
+  EXPECT_EQ(entry.toolTip(), "Τελειώνει. Ends.");
+}
+
+TEST_F(Controls, EveryKindThatTakesInputIsReachedByTab) {
+  ScrollBar bar(form, "bar", Qt::Horizontal, {0, 0, 1500, 300});
+  TextBox text(form, "text", {0, 300, 1500, 300});
+  CommandButton button(form, "button", {0, 600, 1500, 300});
+  CheckBox check(form, "check", {0, 900, 1500, 300});
+  OptionButton option(form, "option", {0, 1200, 1500, 300});
+  for (const QWidget* control :
+       std::initializer_list<QWidget*>{&bar, &text, &button, &check, &option}) {
+    EXPECT_TRUE(control->focusPolicy() & Qt::TabFocus) << control->objectName().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace lensbench

@@ -1,0 +1,141 @@
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+
+#include "canvas/qt/BoxFilter.h"
+#include "canvas/qt/Strokes.h"
+#include "tests/qt/Pictures.h"
+
+namespace lensbench {
+namespace {
+
+// Distance of a point from a segment.
+double distance(Point p, const Segment& s) {
+  const double dx = s.to.x - s.from.x;
+  const double dy = s.to.y - s.from.y;
+  const double square = dx * dx + dy * dy;
+  double t = square > 0 ? ((p.x - s.from.x) * dx + (p.y - s.from.y) * dy) / square : 0.0;
+  t = std::clamp(t, 0.0, 1.0);
+  return std::hypot(p.x - s.from.x - t * dx, p.y - s.from.y - t * dy);
+}
+
+TEST(Strokes, ARoundPenPaintsWhatIsWithinItsRadius) {
+  std::mt19937 random(5);
+  std::uniform_real_distribution<double> place(-20.0, 80.0);
+  std::uniform_real_distribution<double> size(0.5, 9.0);
+  for (int i = 0; i < 300; ++i) {
+    QImage image(60, 60, QImage::Format_RGB32);
+    image.fill(opaque(white));
+    Segment line{{place(random), place(random)}, {place(random), place(random)}};
+    if (i % 10 == 0) line.to.x = line.from.x;
+    if (i % 10 == 1) line.to.y = line.from.y;
+    if (i % 10 == 2) line.to = line.from;
+    if (i % 10 == 3) line.to.y = line.from.y + 1e-13;
+    const double radius = size(random);
+    strokeRound(Pixels(image), line, radius, opaque(red));
+    for (int y = 0; y < 60; ++y) {
+      for (int x = 0; x < 60; ++x) {
+        const double off = distance({x + 0.5, y + 0.5}, line);
+        if (std::fabs(off - radius) < 0.01) continue;
+        ASSERT_EQ(colourAt(image, x, y) == red, off < radius) << x << ", " << y << " case " << i;
+      }
+    }
+  }
+}
+
+TEST(Strokes, AThinLineIsAnUnbrokenChainNearTheTrueLine) {
+  std::mt19937 random(6);
+  std::uniform_real_distribution<double> place(0.0, 50.0);
+  for (int i = 0; i < 2000; ++i) {
+    QImage image(50, 50, QImage::Format_RGB32);
+    image.fill(opaque(white));
+    Segment line{{place(random), place(random)}, {place(random), place(random)}};
+    if (i % 2 == 0) {
+      line.to = {std::clamp(line.from.x + (line.to.x - 25) / 10, 0.0, 49.9),
+                 std::clamp(line.from.y + (line.to.y - 25) / 10, 0.0, 49.9)};
+    }
+    strokeThin(Pixels(image), line, opaque(red));
+    const int columns = std::abs(int(line.to.x) - int(line.from.x));
+    const int rows = std::abs(int(line.to.y) - int(line.from.y));
+    ASSERT_EQ(count(image, red), std::max(columns, rows) + 1);
+    ASSERT_EQ(colourAt(image, int(line.from.x), int(line.from.y)), red);
+    ASSERT_EQ(colourAt(image, int(line.to.x), int(line.to.y)), red);
+    for (int y = 0; y < 50; ++y) {
+      for (int x = 0; x < 50; ++x) {
+        if (colourAt(image, x, y) != red) continue;
+        ASSERT_LT(distance({x + 0.5, y + 0.5}, line), 1.5);
+        int neighbours = 0;
+        for (int v = std::max(y - 1, 0); v <= std::min(y + 1, 49); ++v) {
+          for (int u = std::max(x - 1, 0); u <= std::min(x + 1, 49); ++u) {
+            neighbours += colourAt(image, u, v) == red ? 1 : 0;
+          }
+        }
+        const bool end = (x == int(line.from.x) && y == int(line.from.y)) ||
+                         (x == int(line.to.x) && y == int(line.to.y));
+        ASSERT_GE(neighbours, columns + rows == 0 ? 1 : end ? 2 : 3);
+      }
+    }
+  }
+}
+
+TEST(Strokes, ADotStampIsSymmetric) {
+  for (int diameter = 1; diameter <= 30; ++diameter) {
+    QImage image(diameter, diameter, QImage::Format_RGB32);
+    image.fill(opaque(white));
+    DotStamp(diameter).paint(Pixels(image), 0, 0, opaque(red));
+    EXPECT_EQ(image, image.mirrored(true, false)) << diameter;
+    EXPECT_EQ(image, image.mirrored(false, true)) << diameter;
+    EXPECT_EQ(extent(image, red), image.rect()) << diameter;
+  }
+}
+
+TEST(Clipping, KeepsWhatIsInsideToTheLastBit) {
+  const Box box{0, 0, 10, 10};
+  const auto inside = clipped({0.1, 0.2}, {9.7, 3.3}, box);
+  ASSERT_TRUE(inside);
+  EXPECT_EQ(inside->from.x, 0.1);
+  EXPECT_EQ(inside->to.y, 3.3);
+  const auto across = clipped({-10, 5}, {20, 5}, box);
+  ASSERT_TRUE(across);
+  EXPECT_EQ(across->from.x, 0.0);
+  EXPECT_EQ(across->to.x, 10.0);
+  EXPECT_FALSE(clipped({-1, 0}, {-1, 10}, box));
+  EXPECT_FALSE(clipped({-10, 5}, {5, 25}, box));
+  EXPECT_TRUE(clipped({3, 3}, {3, 3}, box));
+  EXPECT_FALSE(clipped({13, 3}, {13, 3}, box));
+}
+
+TEST(BoxFilter, TakesTheRoundedMeanOfEachSquareInsideTheArea) {
+  std::mt19937 random(8);
+  for (const int k : {2, 3}) {
+    QImage source(10 * k, 8 * k, QImage::Format_RGB32);
+    for (int y = 0; y < source.height(); ++y) {
+      for (int x = 0; x < source.width(); ++x) {
+        source.setPixel(x, y, 0xFF000000u | (random() & 0xFFFFFFu));
+      }
+    }
+    QImage target(10, 8, QImage::Format_RGB32);
+    target.fill(opaque(white));
+    const QRect area(2, 1, 30, 5);
+    boxFilter(source, target, area, k);
+    for (int y = 0; y < 8; ++y) {
+      for (int x = 0; x < 10; ++x) {
+        int r = 0, g = 0, b = 0;
+        for (int j = 0; j < k; ++j) {
+          for (int i = 0; i < k; ++i) {
+            const Rgb c = colourAt(source, x * k + i, y * k + j);
+            r += c.red();
+            g += c.green();
+            b += c.blue();
+          }
+        }
+        const int n = k * k;
+        const Rgb mean = RGB((r + n / 2) / n, (g + n / 2) / n, (b + n / 2) / n);
+        EXPECT_EQ(colourAt(target, x, y), area.contains(x, y) ? mean : white);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace lensbench
