@@ -7,6 +7,10 @@
 namespace lensbench::protosfakos {
 namespace {
 
+// Half-height, in user units, below which a point of a hyperbola is its vertex: more than what is
+// lost in rounding, less than the semi-axis b of any lens but that of index 1.
+constexpr double vertexHeight = 1e-9;
+
 constexpr double unbounded = std::numeric_limits<double>::infinity();
 
 constexpr Point mirroredVector(Point v) { return {-v.x, v.y}; }
@@ -62,8 +66,7 @@ std::optional<Chord> chordOf(const PlaneFace& face, const Ray& ray) {
 // The gradient of y²/b² - x²/a², which points out of the glass, at length 1.
 std::optional<Point> normalOf(const HyperbolicFace& face, Point p) {
   if (face.mirrored) p = mirroredPoint(p, face.a);
-  const bool vertex = (p.x / face.a) * (p.x / face.a) - 1.0 <= 0.0;
-  if (vertex || face.b == 0.0) return std::nullopt;
+  if (std::fabs(p.y) < vertexHeight) return std::nullopt;
   const double k = face.b / face.a;
   const Point gradient{-k * k * p.x, p.y};
   const Point normal = (1.0 / length(gradient)) * gradient;
