@@ -22,6 +22,10 @@ namespace {
 constexpr int leftButton = 1;
 constexpr int arrow = 1;
 constexpr int cross = 2;
+constexpr double scaleLeft = -120.0;
+constexpr double scaleTop = 120.0;
+constexpr double scaleRight = 150.0;
+constexpr double scaleBottom = -120.0;
 constexpr double strokeX = 130.0;
 constexpr double halfOpening = 10.0;
 constexpr double outerEnd = 200.0;
@@ -91,15 +95,18 @@ void ElSahl::placeEdges(const Diafragma& diafragma) {
   place(controls_.Line2, -outerEnd, diafragma.lower);
 }
 
-void ElSahl::setScale() { canvas().Scale(-120, 120, 150, -120); }
+void ElSahl::setScale() { canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom); }
 
 Point ElSahl::inLensScale(Point p) {
+  const Canvas& surface = canvas();
+  if (surface.ScaleLeft() == scaleLeft && surface.ScaleTop() == scaleTop &&
+      surface.ScaleWidth() == scaleRight - scaleLeft &&
+      surface.ScaleHeight() == scaleBottom - scaleTop) {
+    return p;
+  }
   const UserMapping before = canvas().mapping();
   setScale();
-  const UserMapping after = canvas().mapping();
-  const bool same = before.left == after.left && before.top == after.top &&
-                    before.xPixels == after.xPixels && before.yPixels == after.yPixels;
-  return same ? p : after.toUser(before.toPixel(p));
+  return canvas().mapping().toUser(before.toPixel(p));
 }
 
 void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {

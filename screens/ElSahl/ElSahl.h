@@ -45,7 +45,8 @@ class ElSahl : public Form {
   void connectHandlers();
   void resized();
   void setScale();
-  // Sets the scale of the lenses; returns the user point that p, of the scale before, now is.
+  // Sets the scale of the lenses where a resized window has another, and says where p, a point of
+  // that scale, now is. Nothing is rounded where the scale holds already.
   Point inLensScale(Point p);
   void placeEdges(const protosfakos::Diafragma& diafragma);
   void dragTo(Point p);

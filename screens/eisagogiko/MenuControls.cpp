@@ -5,8 +5,8 @@
 namespace lensbench {
 namespace {
 
-constexpr int gap = 7;           // between buttons that would touch, pixels
-constexpr int labelWidth = 260;  // holds the longest text of the label in two lines, pixels
+constexpr int gap = 7;    // between buttons that would touch, pixels
+constexpr int spare = 8;  // beside the widest line of the label, pixels
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void MenuControls::setTexts() {
   Label1.FontSize(8.25);
 }
 
-// The buttons stand side by side and equally high, and the label holds the longest of its texts.
+// The buttons stand side by side and equally high, and the label holds the longest of its lines.
 void MenuControls::makeRoom() {
   CommandButton* buttons[] = {&Command1, &Command2, &Command3};
   int height = 0;
@@ -49,7 +49,13 @@ void MenuControls::makeRoom() {
     button->setGeometry(std::max(button->x(), free), button->y(), button->width(), height);
     free = button->x() + button->width() + gap;
   }
-  Label1.resize(std::max(Label1.width(), labelWidth), Label1.height());
+  // Its texts break between the languages, so that the number stays with its name.
+  int widest = Label1.width();
+  for (const char* line :
+       {"INDEX  OF REFRACTION", "Δείκτης Διάθλασης= 2.50", "Index of Refraction n=2.50"}) {
+    widest = std::max(widest, Label1.fontMetrics().horizontalAdvance(QString::fromUtf8(line)));
+  }
+  Label1.resize(widest + spare, Label1.height());
   Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
