@@ -50,17 +50,20 @@ expect_none() {
   if ((found > 0)); then fail "picture $1 has $found pixels of $2"; fi
 }
 
-# differing NAME NAME: how many pixels of the two pictures differ.
+# differing NAME NAME [REGION]: how many pixels of the two pictures differ.
 differing() {
   local answer status=0
-  answer=$(compare -metric AE "$scratch/$1.png" "$scratch/$2.png" null: 2>&1) || status=$?
+  answer=$(compare -metric AE "$scratch/$1.png${3-}" "$scratch/$2.png${3-}" null: 2>&1) || status=$?
   if ((status > 1)); then fail "pictures $1 and $2 cannot be compared: $answer"; fi
   awk -v n="$answer" 'BEGIN { printf "%d\n", n }'
 }
+# The part of the workbench, on a display of 1366x768, in which no control stands: a control may look
+# different because it has the focus or is held.
+middle='[1300x540+0+110]'
 expect_same() {
   local found
-  found=$(differing "$1" "$2")
-  if ((found > 0)); then fail "pictures $1 and $2 differ in $found pixels"; fi
+  found=$(differing "$1" "$2" "$middle")
+  if ((found > 0)); then fail "the middles of pictures $1 and $2 differ in $found pixels"; fi
 }
 expect_different() {
   if (($(differing "$1" "$2") == 0)); then fail "pictures $1 and $2 are the same"; fi
