@@ -11,7 +11,7 @@ namespace lensbench::poreiaaktinon {
 
 int rayCount(double vima) { return static_cast<int>(Int(360 / Variant(vima)).value()); }
 
-std::vector<RayPath> fanPaths(const Setup& setup, Point source, double vima) {
+std::vector<RayPath> fanPaths(const OpticalSetup& setup, Point source, double vima) {
   const int count = rayCount(vima);
   std::vector<RayPath> paths;
   paths.reserve(static_cast<std::size_t>(count));
@@ -22,7 +22,7 @@ std::vector<RayPath> fanPaths(const Setup& setup, Point source, double vima) {
   return paths;
 }
 
-std::vector<RayPath> bundlePaths(const Setup& setup, double angle, int desmi1) {
+std::vector<RayPath> bundlePaths(const OpticalSetup& setup, double angle, int desmi1) {
   constexpr Point origin{-200.0, 0.0};
   const Point direction{std::cos(angle), std::sin(angle)};
   const double spacing = (400 / Variant(desmi1)).value();

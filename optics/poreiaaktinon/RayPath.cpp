@@ -8,7 +8,7 @@ namespace {
 
 // Adds the piece up to the point where it ends, or where the diaphragm stops it on the way; false
 // when it was stopped.
-bool addPiece(RayPath& path, const Setup& setup, Point direction, Region region, Point end) {
+bool addPiece(RayPath& path, const OpticalSetup& setup, Point direction, Region region, Point end) {
   const auto piece = static_cast<std::size_t>(path.pieces++);
   const Point start = path.points[piece];
   path.directions[piece] = direction;
@@ -25,7 +25,8 @@ bool addPiece(RayPath& path, const Setup& setup, Point direction, Region region,
 }
 
 // Adds the piece up to a face and turns the direction there; false when the ray ends with it.
-bool crossFace(RayPath& path, const Setup& setup, const Crossing& crossing, Point& direction) {
+bool crossFace(RayPath& path, const OpticalSetup& setup, const Crossing& crossing,
+               Point& direction) {
   const Region region = crossing.entering ? Region::BeforeLens : Region::Glass;
   if (!addPiece(path, setup, direction, region, crossing.point)) return false;
   const double ratio = crossing.entering ? 1.0 / path.n : path.n;
@@ -41,11 +42,11 @@ bool crossFace(RayPath& path, const Setup& setup, const Crossing& crossing, Poin
 
 }  // namespace
 
-Setup setupOf(Workbench& bench) {
+OpticalSetup setupOf(Workbench& bench) {
   return {bench.fakos(), bench.deiktisdiathlasis(), bench.diafragma(), edgesOf(bench.canvas())};
 }
 
-RayPath tracePath(const Setup& setup, Point start, Point direction, double phase) {
+RayPath tracePath(const OpticalSetup& setup, Point start, Point direction, double phase) {
   RayPath path;
   path.points[0] = start;
   path.n = setup.n;

@@ -13,14 +13,14 @@
 namespace lensbench::poreiaaktinon {
 
 // Everything that a ray can meet on its way.
-struct Setup {
+struct OpticalSetup {
   Fakos fakos;
   double n = 1.0;                      // index of refraction of the lens over that around it
   std::optional<Diafragma> diafragma;  // nothing: no ray is stopped
   Edges edges;                         // of the drawing area, where the last piece ends
 };
 // The workbench as it stands now.
-Setup setupOf(Workbench& bench);
+OpticalSetup setupOf(Workbench& bench);
 
 // Where on its way through the lens a straight piece of a path lies.
 enum class Region : std::uint8_t { BeforeLens, Glass, BehindLens };
@@ -54,6 +54,6 @@ struct RayPath {
 // Division by zero (11). Each piece is tested against the diaphragm only where it reaches x = X. A
 // start in the glass makes the first piece a piece of glass. A ray that leaves the lens beyond the
 // drawing area and moves on away from it ends there.
-RayPath tracePath(const Setup& setup, Point start, Point direction, double phase = 0.0);
+RayPath tracePath(const OpticalSetup& setup, Point start, Point direction, double phase = 0.0);
 
 }  // namespace lensbench::poreiaaktinon

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "optics/poreiaaktinon/Bundles.h"
+#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 
 namespace lensbench::poreiaaktinon {
@@ -47,7 +48,7 @@ Edges edgesOfDots(const Canvas& canvas) {
   return {edges.left - margin, edges.right + margin, edges.lower - margin, edges.upper + margin};
 }
 
-Setup setupFor(const Canvas& canvas, const Fakos& fakos, const Variant& n) {
+OpticalSetup setupFor(const Canvas& canvas, const Fakos& fakos, const Variant& n) {
   return {fakos, n.value(), workbench().diafragma(), edgesOf(canvas)};
 }
 
@@ -65,21 +66,22 @@ void drawWavePoints(Canvas& canvas, const RayPath& path) {
   const Edges edges = edgesOfDots(canvas);
   canvas.DrawWidth(2);
   double pieceStart = path.phase;  // optical path
+  double next = std::ceil(pieceStart / waveStep);
   for (int piece = 0; piece < path.pieces; ++piece) {
     const auto i = static_cast<std::size_t>(piece);
     const double optical = opticalLength(path, piece);
-    const double index = path.regions[i] == Region::Glass ? path.n : 1.0;
-    const Stretch visible =
-        visibleStretch(edges, path.points[i], path.directions[i], {0.0, optical / index});
+    const Point perOpticalPath = (1.0 / indexOf(path, piece)) * path.directions[i];
+    const Stretch visible = visibleStretch(edges, path.points[i], perOpticalPath, {0.0, optical});
+    const double first = std::max(next, std::ceil((pieceStart + visible.from) / waveStep));
+    const double last = std::floor((pieceStart + visible.to) / waveStep);
     // Counted from the first visible one: far from the count's origin, adding 1 to its number
     // would not change it.
-    const double first = std::ceil((pieceStart + visible.from * index) / waveStep);
-    const double count = std::floor((pieceStart + visible.to * index) / waveStep) - first;
-    for (double k = 0.0; k <= count; k += 1.0) {
+    for (double k = 0.0; k <= last - first; k += 1.0) {
       const Point dot = pointOnPiece(path, piece, (first + k) * waveStep - pieceStart);
       canvas.PSet(dot.x, dot.y, waveColour(path.regions[i]));
     }
     pieceStart += optical;
+    next = std::floor(pieceStart / waveStep) + 1.0;
   }
   canvas.DrawWidth(1);
 }
@@ -94,14 +96,14 @@ void drawPaths(Canvas& canvas, std::span<const RayPath> paths, const Provoli& pr
 void sxediasidesmis(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
                     const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
                     const Variant& R2, const Variant& n) {
-  const Setup setup = setupFor(canvas, fakosOf(xc1, xc2, R1, R2), n);
+  const OpticalSetup setup = setupFor(canvas, fakosOf(xc1, xc2, R1, R2), n);
   drawPath(canvas, tracePath(setup, {px.value(), py.value()}, {dx.value(), dy.value()}));
 }
 
 void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
                      const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
                      const Variant& R2, const Variant& n, const Variant& phase) {
-  const Setup setup = setupFor(canvas, fakosOf(xc1, xc2, R1, R2), n);
+  const OpticalSetup setup = setupFor(canvas, fakosOf(xc1, xc2, R1, R2), n);
   drawWavePoints(
       canvas, tracePath(setup, {px.value(), py.value()}, {dx.value(), dy.value()}, phase.value()));
 }
@@ -109,7 +111,7 @@ void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const
 std::vector<RayPath> bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1,
                                      const Variant& R2, const Variant& xs, const Variant& ys) {
   Workbench& bench = workbench();
-  Setup setup = setupOf(bench);
+  OpticalSetup setup = setupOf(bench);
   setup.fakos = fakosOf(xc1, xc2, R1, R2);
   std::vector<RayPath> rays = fanPaths(setup, {xs.value(), ys.value()}, bench.vima());
   drawPaths(bench.canvas(), rays, bench.provoli());
@@ -119,7 +121,7 @@ std::vector<RayPath> bentaliaaktinon(const Variant& xc1, const Variant& xc2, con
 void poreiamiasaktinas(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
                        const Variant& dy, const Variant& /*mode*/, const Variant& xc2,
                        const Variant& R1, const Variant& R2, const Variant& n) {
-  const Setup setup = setupFor(canvas, fakosOf(0, xc2, R1, R2), n);
+  const OpticalSetup setup = setupFor(canvas, fakosOf(0, xc2, R1, R2), n);
   const RayPath path = tracePath(setup, {px.value(), py.value()}, {dx.value(), dy.value()});
   drawPieces(canvas, path, airColour, airColour);
 }

@@ -7,16 +7,16 @@
 namespace lensbench::poreiaaktinon {
 namespace {
 
-double indexOf(const RayPath& path, int piece) {
-  return path.regions[static_cast<std::size_t>(piece)] == Region::Glass ? path.n : 1.0;
-}
-
 double pieceLength(const RayPath& path, int piece) {
   const auto i = static_cast<std::size_t>(piece);
   return length(path.points[i + 1] - path.points[i]);
 }
 
 }  // namespace
+
+double indexOf(const RayPath& path, int piece) {
+  return path.regions[static_cast<std::size_t>(piece)] == Region::Glass ? path.n : 1.0;
+}
 
 double opticalLength(const RayPath& path, int piece) {
   return indexOf(path, piece) * pieceLength(path, piece);

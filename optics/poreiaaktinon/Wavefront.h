@@ -7,6 +7,9 @@
 
 namespace lensbench::poreiaaktinon {
 
+// Index of refraction along a piece of a path.
+double indexOf(const RayPath& path, int piece);
+
 // Optical length of a piece of a path, n times its length in the glass, user units.
 double opticalLength(const RayPath& path, int piece);
 // Of the whole path, from its start to its end.

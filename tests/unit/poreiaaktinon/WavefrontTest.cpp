@@ -1,0 +1,66 @@
+// Optical path and the points that a wave reaches.
+#include <gtest/gtest.h>
+
+#include "optics/poreiaaktinon/Wavefront.h"
+#include "tests/unit/poreiaaktinon/FakeWorkbench.h"
+
+namespace lensbench::poreiaaktinon {
+namespace {
+
+// 160 units of air, 80 of glass from x = -40 to x = 40, 360 of air.
+RayPath axial(double n = 1.5, double phase = 0.0) {
+  const OpticalSetup setup{{-60.0, 100.0, 60.0, 100.0}, n, std::nullopt, testEdges};
+  return tracePath(setup, {-200.0, 0.0}, {1.0, 0.0}, phase);
+}
+
+double abscissa(const RayPath& path, double L) {
+  return pointAtOpticalPath(path, L).value().position.x;
+}
+
+TEST(OpticalLength, CountsTheGlassNTimes) {
+  EXPECT_NEAR(opticalLength(axial()), 160.0 + 120.0 + 360.0, 1e-12);
+  EXPECT_NEAR(opticalLength(axial(), 1), 120.0, 1e-12);
+}
+
+TEST(PointAtOpticalPath, IsSlowerInTheGlass) {
+  EXPECT_NEAR(abscissa(axial(), 0.0), -200.0, 1e-12);
+  EXPECT_NEAR(abscissa(axial(), 100.0), -100.0, 1e-12);
+  EXPECT_NEAR(abscissa(axial(), 160.0 + 30.0), -20.0, 1e-12);
+  EXPECT_NEAR(abscissa(axial(), 280.0 + 30.0), 70.0, 1e-12);
+  EXPECT_NEAR(abscissa(axial(0.5), 160.0 + 30.0), 20.0, 1e-12);
+}
+
+TEST(PointAtOpticalPath, SaysWhereOnItsWayTheWaveStands) {
+  const auto before = pointAtOpticalPath(axial(), 100.0);
+  const auto inGlass = pointAtOpticalPath(axial(), 200.0);
+  const auto behind = pointAtOpticalPath(axial(), 300.0);
+  ASSERT_TRUE(before && inGlass && behind);
+  EXPECT_EQ(before->region, Region::BeforeLens);
+  EXPECT_EQ(before->crossed, FacesCrossed{});
+  EXPECT_EQ(inGlass->region, Region::Glass);
+  EXPECT_EQ(inGlass->crossed, (FacesCrossed{Face::Left, Face::None}));
+  EXPECT_EQ(behind->region, Region::BehindLens);
+  EXPECT_EQ(behind->crossed, (FacesCrossed{Face::Left, Face::Right}));
+}
+
+TEST(PointAtOpticalPath, IsNothingBeforeTheStartAndBeyondTheEnd) {
+  EXPECT_FALSE(pointAtOpticalPath(axial(), -0.001));
+  EXPECT_TRUE(pointAtOpticalPath(axial(), 639.999));
+  EXPECT_FALSE(pointAtOpticalPath(axial(), 640.001));
+}
+
+TEST(PointAtOpticalPath, CountsFromThePhase) {
+  EXPECT_FALSE(pointAtOpticalPath(axial(1.5, 50.0), 49.0));
+  EXPECT_NEAR(abscissa(axial(1.5, 50.0), 60.0), -190.0, 1e-12);
+  EXPECT_NEAR(abscissa(axial(1.5, -50.0), 0.0), -150.0, 1e-12);
+}
+
+TEST(PointAtOpticalPath, FromVeryFarKeepsItsDigitsInTheArea) {
+  const OpticalSetup setup{{-60.0, 100.0, 60.0, 100.0}, 1.5, std::nullopt, testEdges};
+  const RayPath path = tracePath(setup, {-1e12, 0.0}, {1.0, 0.0}, -1e12);
+  EXPECT_NEAR(abscissa(path, -60.0), -60.0, 1e-3);
+  EXPECT_NEAR(abscissa(path, -40.0 + 60.0), 0.0, 1e-3);
+}
+
+}  // namespace
+}  // namespace lensbench::poreiaaktinon
