@@ -1,0 +1,219 @@
+// Speed of the workbench as the student meets it: a scroll-bar step, fans, bundles and ticks, from
+// the handler to the shown window, at 1920 x 1080 with two image pixels a display pixel.
+//
+// The reference is the same list of drawing operations, recorded once and played on a bare canvas
+// of the same size: what is left over it is tracing, reading the controls and showing the picture.
+#include <QApplication>
+
+#include "app/Screens.h"
+#include "bench/Compare.h"
+#include "canvas/qt/RasterCanvas.h"
+#include "optics/poreiaaktinon/Bundles.h"
+#include "optics/poreiaaktinon/Tracing.h"
+#include "screens/kelmo/Scene.h"
+#include "screens/kelmo/kelmo.h"
+#include "tests/support/RecordingCanvas.h"
+
+namespace lensbench {
+namespace {
+
+constexpr QSize display(1920, 1080);
+
+// The workbench with a canvas that writes down what is drawn.
+class RecordedWorkbench : public poreiaaktinon::Workbench {
+ public:
+  explicit RecordedWorkbench(kelmo& screen)
+      : screen_(screen), canvas_(screen.drawingArea()->width(), screen.drawingArea()->height()) {
+    const Canvas& shown = screen.canvas();
+    canvas_.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
+                  shown.ScaleTop() + shown.ScaleHeight());
+    poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return *this; });
+  }
+  ~RecordedWorkbench() override {
+    poreiaaktinon::connectWorkbench(
+        [&screen = screen_]() -> poreiaaktinon::Workbench& { return screen.workbench(); });
+  }
+
+  RecordingCanvas& canvas() override { return canvas_; }
+  poreiaaktinon::Diafragma diafragma() const override { return screen_.workbench().diafragma(); }
+  poreiaaktinon::Fakos fakos() const override { return screen_.workbench().fakos(); }
+  double deiktisdiathlasis() const override { return screen_.workbench().deiktisdiathlasis(); }
+  Point pigi() const override { return screen_.workbench().pigi(); }
+  double vima() const override { return screen_.workbench().vima(); }
+  poreiaaktinon::Provoli provoli() const override { return screen_.workbench().provoli(); }
+
+ private:
+  kelmo& screen_;
+  RecordingCanvas canvas_;
+};
+
+void play(const std::vector<Operation>& operations, Canvas& canvas) {
+  for (const Operation& op : operations) {
+    canvas.DrawWidth(op.width);
+    canvas.DrawStyle(op.style);
+    canvas.FillStyle(op.fill ? FillStyle::Solid : FillStyle::Transparent);
+    if (op.fill) canvas.FillColor(*op.fill);
+    switch (op.kind) {
+      case Operation::Kind::Cls:
+        canvas.Cls();
+        break;
+      case Operation::Kind::Line:
+        canvas.Line(op.x1, op.y1, op.x2, op.y2, op.colour);
+        break;
+      case Operation::Kind::Circle:
+        canvas.Circle(op.x1, op.y1, op.radius, op.colour);
+        break;
+      case Operation::Kind::Arc:
+        canvas.Circle(op.x1, op.y1, op.radius, op.colour, op.x2, op.y2);
+        break;
+      case Operation::Kind::PSet:
+        canvas.PSet(op.x1, op.y1, op.colour);
+        break;
+      case Operation::Kind::Print:
+        canvas.CurrentX(op.x1);
+        canvas.CurrentY(op.y1);
+        canvas.Print(op.text);
+        break;
+      case Operation::Kind::FloodFill:
+        canvas.FloodFill(static_cast<int>(op.x1), static_cast<int>(op.y1), op.colour);
+        break;
+      case Operation::Kind::Scale:
+        break;
+    }
+  }
+}
+
+// The workbench on a full display with its diaphragm wide open.
+struct Desk {
+  Screens screens;
+  kelmo& bench;
+  RasterCanvas bare{display, 1.0, 2};
+
+  Desk() : bench(screens.kelmo()) {
+    bench.Show();
+    bench.resize(display);
+    QApplication::processEvents();
+    bench.controls().VScroll1.Value(-90);
+    bench.controls().VScroll2.Value(90);
+    bare.resize(bench.drawingArea()->size(), 1.0);
+    const Canvas& shown = bench.canvas();
+    bare.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
+               shown.ScaleTop() + shown.ScaleHeight());
+  }
+
+  void show() { bench.drawingArea()->repaint(); }
+
+  Point pixelOf(double x, double y) const {
+    const Canvas& c = bench.canvas();
+    return {c.ScaleX(x - c.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel),
+            c.ScaleY(y - c.ScaleTop(), ScaleUnit::User, ScaleUnit::Pixel)};
+  }
+
+  // What a scene and the given rays draw, as a list.
+  std::vector<Operation> recorded(const std::vector<poreiaaktinon::RayPath>& rays) {
+    RecordedWorkbench workbench(bench);
+    workbench.canvas().Cls();
+    drawLensScene(workbench);
+    poreiaaktinon::drawPaths(workbench.canvas(), rays, workbench.provoli());
+    return workbench.canvas().operations();
+  }
+};
+
+void scrollBarStep(benchmark::State& state) {
+  Desk desk;
+  const auto list = desk.recorded({});
+  int radius = 100;
+  compare(
+      state,
+      [&] {
+        radius = 201 - radius;
+        desk.bench.controls().aktina1.Value(radius);
+        desk.show();
+      },
+      [&] { play(list, desk.bare); });
+}
+
+// A fan from an off-axis source; range(0) desmi1, range(1) the multiplier, range(2) waves too.
+void fan(benchmark::State& state) {
+  Desk desk;
+  KelmoControls& controls = desk.bench.controls();
+  controls.desmi1.Value(static_cast<int>(state.range(0)));
+  controls.arvimaton.Value(static_cast<int>(state.range(1)));
+  controls.Check1.Value(state.range(2) != 0);
+  desk.bench.Form_MouseDown(1, 1, -250, 40);
+  const auto rays = poreiaaktinon::fanPaths(poreiaaktinon::setupOf(desk.bench.workbench()),
+                                            {-250, 40}, desk.bench.vima.value());
+  const auto list = desk.recorded(rays);
+  state.counters["rays"] = static_cast<double>(rays.size());
+  compare(
+      state,
+      [&] {
+        desk.bench.Form_MouseDown(1, 1, -250, 40);
+        desk.show();
+      },
+      [&] { play(list, desk.bare); });
+}
+
+// A bundle of 151 rays with waves at an angle of range(0) degrees.
+void bundle(benchmark::State& state) {
+  Desk desk;
+  const double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
+  desk.bench.controls().desmi1.Value(150);
+  desk.bench.controls().Check1.Value(true);
+  const auto rays =
+      poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(desk.bench.workbench()), angle, 150);
+  const auto list = desk.recorded(rays);
+  state.counters["rays"] = static_cast<double>(rays.size());
+  compare(
+      state,
+      [&] {
+        desk.bench.drawBundle(angle);
+        desk.show();
+      },
+      [&] { play(list, desk.bare); });
+}
+
+// A tick of the plane waves of 151 rays; the reference draws the two fronts and the scene once.
+void tick(benchmark::State& state) {
+  Desk desk;
+  KelmoControls& controls = desk.bench.controls();
+  controls.desmi1.Value(150);
+  desk.bench.parallilakymata_Click();
+  for (int i = 0; i < 160; ++i) desk.bench.Timer2_Timer();
+  RecordedWorkbench workbench(desk.bench);
+  WaveAnimation animation;
+  animation.start(desk.bench.animation().set());
+  animation.draw(workbench, 160);
+  const auto list = workbench.canvas().operations();
+  compare(
+      state,
+      [&] {
+        if (controls.Timer2.Interval() == 0) state.SkipWithError("the waves have stopped");
+        desk.bench.Timer2_Timer();
+        desk.show();
+      },
+      [&] { play(list, desk.bare); });
+}
+
+BENCHMARK(scrollBarStep)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(fan)
+    ->Args({20, 30, 0})
+    ->Args({20, 30, 1})
+    ->Args({150, 5, 0})
+    ->Args({150, 5, 1})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(bundle)->Arg(0)->Arg(20)->UseManualTime()->Unit(benchmark::kMillisecond);
+// Few enough ticks to stay among those that draw.
+BENCHMARK(tick)->UseManualTime()->Iterations(70)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace lensbench
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+}

@@ -1,0 +1,75 @@
+// An error that escapes a handler is shown and ends the program with exit status 1.
+#include <gtest/gtest.h>
+#include <iostream>
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "app/Application.h"
+#include "app/Screens.h"
+#include "canvas/RuntimeError.h"
+#include "screens/kelmo/kelmo.h"
+#include "screens/moniaktina/moniaktina.h"
+#include "tests/screens/support/FakeDialogs.h"
+
+namespace lensbench {
+namespace {
+
+// Says on the error stream what the box would have shown, before the process is gone.
+class SpokenDialogs : public FakeDialogs {
+ public:
+  void Critical(const QString& /*title*/, const QString& text,
+                const QString& informative) override {
+    std::cerr << text.toStdString() << '\n' << informative.toStdString() << '\n';
+  }
+};
+
+void deliverEvents() {
+  for (int i = 0; i < 50; ++i) QCoreApplication::processEvents();
+}
+
+TEST(ErrorBoundary, SaysNumberAndWordsInBothLanguages) {
+  const RuntimeError error(RuntimeError::Code::DivisionByZero, "Η ακτίνα είναι 0.");
+  EXPECT_EQ(errorHeadline(error), "Σφάλμα 11: διαίρεση με το μηδέν · Error 11: Division by zero");
+  const QString sentence = errorSentence(error, "Ακτίνα 2 · Radius 2");
+  EXPECT_TRUE(sentence.contains("Η ακτίνα είναι 0."));
+  EXPECT_TRUE(sentence.contains("Ακτίνα 2 · Radius 2"));
+}
+
+TEST(ErrorBoundary, AnErrorInAHandlerEndsTheProgramAfterTheBox) {
+  EXPECT_EXIT(
+      {
+        const SpokenDialogs boxes;
+        Screens screens;
+        Main(screens);
+        screens.kelmo().controls().singleray.trigger();
+        QTimer::singleShot(0, [&screens] { screens.moniaktina().controls().aktina2.Value(0); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1), "Error 11: Division by zero");
+}
+
+TEST(ErrorBoundary, AnAnswerThatIsNoNumberEndsTheProgramAndNamesTheAction) {
+  EXPECT_EXIT(
+      {
+        SpokenDialogs boxes;
+        boxes.answer = "abc";
+        Screens screens;
+        Main(screens);
+        QTimer::singleShot(0, [&screens] { screens.kelmo().controls().EPANALIPSI.trigger(); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*BUNDLE");
+}
+
+TEST(ErrorBoundary, StandsAroundStartUpToo) {
+  EXPECT_EXIT(
+      {
+        const SpokenDialogs boxes;
+        static_cast<Application*>(QCoreApplication::instance())->run([] { throwOverflow(); });
+      },
+      ::testing::ExitedWithCode(1), "Error 6: Overflow");
+}
+
+}  // namespace
+}  // namespace lensbench
