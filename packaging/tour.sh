@@ -103,6 +103,7 @@ biconvex() {
   click "$choice" 82 68
   sahl=$(window "Ιμπν Σαχλ")
   click "$sahl" 144 $((menu_bar + 12))
+  click "$sahl" $(at_sahl "$sahl" 108 -10)
   picture ibn-sahl-biconvex "$sahl"
   menu "$sahl" 1
   window "Angle in" >/dev/null
