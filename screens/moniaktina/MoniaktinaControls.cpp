@@ -1,0 +1,111 @@
+#include "screens/moniaktina/MoniaktinaControls.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace lensbench {
+namespace {
+
+void setRange(ScrollBar& bar, int least, int most, int value) {
+  bar.Min(least);
+  bar.Max(most);
+  bar.Value(value);
+}
+
+void widenFor(TextBox& box, const char* widestText) {
+  const int width = box.widthForText(QString::fromUtf8(widestText));
+  box.resize(std::max(box.width(), width), box.height());
+}
+
+}  // namespace
+
+MoniaktinaControls::MoniaktinaControls(Form& form)
+    : Text6(form, "Text6", {2760, 360, 1335, 375}),
+      aktina1(form, "aktina1", Qt::Horizontal, {0, 360, 2775, 375}),
+      Text5(form, "Text5", {2760, 0, 1335, 375}),
+      aktina2(form, "aktina2", Qt::Horizontal, {0, 0, 2775, 375}),
+      Text2(form, "Text2", {2520, 720, 2175, 375}),
+      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal, {0, 720, 2415, 375}),
+      Command1(form, "Command1", {4200, 120, 1335, 495}),
+      Text7(form, "Text7", {2520, 1080, 3135, 375}),
+      kentrokykloy(form, "kentrokykloy", Qt::Horizontal, {-120, 1080, 2655, 375}),
+      aim(form, "aim", {0, 0, 0, 0}),
+      fos(form, "fos", {1080, 2160, 135, 135}) {
+  setRanges();
+  setLooks();
+  makeRoomForTexts();
+  describeAll();
+  setTabOrder();
+}
+
+void MoniaktinaControls::setRanges() {
+  setRange(aktina1, 50, 500, 90);
+  aktina1.LargeChange(40);
+  setRange(aktina2, 0, 500, 100);
+  aktina2.LargeChange(1);
+  setRange(kentrokykloy, 0, 500, 100);
+  kentrokykloy.LargeChange(40);
+  setRange(deiktisdiathlasis, 40, 250, 150);
+  deiktisdiathlasis.LargeChange(10);
+}
+
+void MoniaktinaControls::setLooks() {
+  Text6.Text("Text6");
+  Text5.Text("Text5");
+  Text7.Text("Text7");
+  Text2.Text("Text2");
+  Text7.FontName("Arial Greek");
+  Text7.FontSize(8.25);
+  Command1.Caption("Πίσω");
+  fos.BorderColor(RGB(255, 0, 0));
+  fos.FillStyle(FillStyle::Solid);
+  fos.FillColor(RGB(255, 128, 0));
+  aim.BorderStyle(BorderStyle::Dotted);
+  aim.Visible(false);
+}
+
+void MoniaktinaControls::makeRoomForTexts() {
+  const int gap = Command1.x() - (Text6.x() + Text6.width());
+  widenFor(Text6, "Ακτίνα 1 =500");
+  widenFor(Text5, "Ακτίνα 2 =500");
+  widenFor(Text7, "Κέντρο δεξιά=500");
+  widenFor(Text2, "Index of Refraction n = 2.50");
+  const int radiusWidth = std::max(Text6.width(), Text5.width());
+  for (TextBox* box : {&Text6, &Text5}) box->resize(radiusWidth, box->height());
+  Command1.move(Text6.x() + radiusWidth + gap, Command1.y());
+}
+
+void MoniaktinaControls::describeAll() {
+  describe(Text6, "Ακτίνα κύκλου 1 · Radius of circle 1",
+           "Η ακτίνα του κύκλου 1.\nThe radius of circle 1.");
+  describe(aktina1, "Ακτίνα κύκλου 1 · Radius of circle 1",
+           "Αλλάζει την ακτίνα του κύκλου 1, τη δεξιά όψη του φακού.\n"
+           "Changes the radius of circle 1, the right face of the lens.");
+  describe(Text5, "Ακτίνα κύκλου 2 · Radius of circle 2",
+           "Η ακτίνα του κύκλου 2.\nThe radius of circle 2.");
+  describe(aktina2, "Ακτίνα κύκλου 2 · Radius of circle 2",
+           "Αλλάζει την ακτίνα του κύκλου 2, την αριστερή όψη του φακού. "
+           "Με ακτίνα 0 το πρόγραμμα τελειώνει.\n"
+           "Changes the radius of circle 2, the left face of the lens. "
+           "A radius of 0 ends the program.");
+  describe(Text2, "Δείκτης διάθλασης · Index of refraction",
+           "Ο δείκτης διάθλασης του φακού.\nThe index of refraction of the lens.");
+  describe(deiktisdiathlasis, "Δείκτης διάθλασης · Index of refraction",
+           "Αλλάζει τον δείκτη διάθλασης· φαίνεται στην επόμενη ακτίνα.\n"
+           "Changes the index of refraction; seen at the next ray.");
+  describe(Command1, "Πίσω · Back",
+           "Επιστρέφει στους σφαιρικούς φακούς.\nGoes back to the spherical lenses.");
+  describe(Text7, "Κέντρο κύκλου 2 · Centre of circle 2",
+           "Η τετμημένη του κέντρου του κύκλου 2.\nThe abscissa of the centre of circle 2.");
+  describe(kentrokykloy, "Κέντρο κύκλου 2 · Centre of circle 2",
+           "Μετακινεί το κέντρο του κύκλου 2 πάνω στον άξονα.\n"
+           "Moves the centre of circle 2 along the axis.");
+}
+
+void MoniaktinaControls::setTabOrder() {
+  QWidget* const order[] = {&Text6,    &aktina1, &Text5,       &aktina2, &Text2, &deiktisdiathlasis,
+                            &Command1, &Text7,   &kentrokykloy};
+  for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+}  // namespace lensbench

@@ -1,0 +1,63 @@
+// The single-ray screen: one spherical lens and one ray through it, from a source that the mouse
+// places and aims.
+#pragma once
+
+#include "canvas/Variant.h"
+#include "canvas/qt/Form.h"
+#include "optics/poreiaaktinon/Geometry.h"
+#include "screens/Moves.h"
+#include "screens/moniaktina/MoniaktinaControls.h"
+
+namespace lensbench {
+
+class moniaktina : public Form {
+ public:
+  explicit moniaktina(Moves& moves);
+
+  MoniaktinaControls& controls() { return controls_; }
+
+  // Fills the display and puts the origin in the middle of the client area, which is 1200 units
+  // wide and high together; a unit is as long in x as in y.
+  void fitDisplay();
+  // The lens as the scroll bars set it.
+  void drawLens();
+  // sxediasifakoy (draw lens): clears, and draws the faces and focal points of two circles on the
+  // axis, of radius R1 at xc1 and of radius R2 at xc2, user units, with the index last read.
+  void sxediasifakoy(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2);
+  // miaaktina (one ray): draws the lens of the scroll bars and the ray from the source, whose
+  // centre (xs, ys) is, towards (xa, ya); user units.
+  void miaaktina(float xs, float ys, float xa, float ya);
+
+  // Handlers, named after control and event.
+  void Form_Load();
+  void Form_MouseDown(int Button, int Shift, double X, double Y);
+  void Form_MouseMove(int Button, int Shift, double X, double Y);
+  void Form_MouseUp(int Button, int Shift, double X, double Y);
+  void aktina1_Change();
+  void aktina2_Change();
+  void kentrokykloy_Change();
+  void deiktisdiathlasis_Change();
+  void Command1_Click();
+
+  Variant aktinaR1;  // radius of circle 1, user units
+  Variant aktinaR2;  // radius of circle 2, user units
+  Variant kentro1;   // centre of circle 1 on the axis, always 0
+  Variant kentro2;   // centre of circle 2 on the axis, user units
+  Variant deiktis;   // index of refraction
+
+ private:
+  void connectHandlers();
+  void resized();
+  void scaleToClientArea();
+  void lensChanged();
+  poreiaaktinon::SinglePair sourceCentre() const;
+  // Clears and draws the ray from the source towards (xa, ya), with the line of its aim.
+  void sendRay(float xa, float ya);
+
+  Moves& moves_;
+  MoniaktinaControls controls_;
+  // From the moment the screen is opened until something is changed on it.
+  bool justOpened_ = false;
+};
+
+}  // namespace lensbench
