@@ -1,0 +1,98 @@
+// Points of one front have equal optical path, and the fronts of a bundle are square to its rays.
+#include <gtest/gtest.h>
+#include <numbers>
+
+#include "tests/property/protosfakos/RandomRays.h"
+#include "tests/unit/protosfakos/FakeSahlScreen.h"
+
+namespace lensbench::protosfakos {
+namespace {
+
+double distance(Point p, Point q) { return length(q - p); }
+
+// The optical path from the start to a point on the ray, told from where it lies. start is the
+// point on the ray at path 0.
+double opticalPath(const RayPath& path, Point start, double n, Point p) {
+  const double before = distance(start, path.entry);
+  const double inside = n * distance(path.entry, path.exit);
+  if (distance(start, p) + distance(p, path.entry) < before + 1e-9) return distance(start, p);
+  if (distance(path.entry, p) + distance(p, path.exit) < inside / n + 1e-9) {
+    return before + n * distance(path.entry, p);
+  }
+  return before + inside + distance(path.exit, p);
+}
+
+Point wavePoint(int ray, int front) {
+  return {state().kymataX[ray][front].value(), state().kymataY[ray][front].value()};
+}
+
+TEST(Fronts, PointsOfOneFrontHaveEqualOpticalPath) {
+  RandomRays random(21);
+  Largest error, off;
+  int rays = 0;
+  while (rays < lawRays) {
+    const double n = random.index();
+    SahlBench bench(n);
+    bench.screen.rays = true;
+    const bool amfikyrtos = rays % 2 == 0;
+    const Point source{random.between(-120, 150), random.between(-60, 60)};
+    bench.fan(amfikyrtos, source.x, source.y);
+    const Glass glass = (amfikyrtos ? biconvex : planoConvex)(12, bench.lens.b, n);
+    int recorded = 0;
+    for (int i = 0; i <= 60; ++i) {
+      const Ray ray =
+          rayWithSlope(source, (90 - 3 * i) / 100.0, source.x < 12 ? Travel::Right : Travel::Left);
+      const RayPath path = trace(glass, ray, wideOpen);
+      if (path.ending != Ending::Emerged) continue;
+      for (int j = 1; j <= 30; ++j) {
+        const Point p = wavePoint(recorded, j);
+        error.meet(opticalPath(path, source, n, p) - 4.0 * (j - 1));
+        if (distance(path.exit, p) > 1e-9 && dot(p - path.exit, path.emerging) > 0 &&
+            4.0 * (j - 1) > distance(source, path.entry) + n * distance(path.entry, path.exit)) {
+          off.meet(cross(path.emerging, p - path.exit));
+        }
+      }
+      ++recorded;
+    }
+    ASSERT_EQ(recorded, bench.recorded());
+    rays += 61;
+  }
+  EXPECT_LT(error.value, 2e-5);
+  EXPECT_LT(off.value, 2e-5);
+  RecordProperty("path", std::to_string(error.value * 1e6) + "e-6");
+  RecordProperty("off", std::to_string(off.value * 1e6) + "e-6");
+}
+
+TEST(Fronts, OfABundleAreSquareToItsRaysBeforeTheLens) {
+  Largest error;
+  int pairs = 0;
+  for (const bool amfikyrtos : {false, true}) {
+    for (const double n : {1.01, 1.33, 1.5, 2.5}) {
+      for (int degrees = -60; degrees <= 60; ++degrees) {
+        SahlBench bench(n);
+        const double slope = std::tan(std::numbers::pi * degrees / 180);
+        bench.bundle(amfikyrtos, slope);
+        const Point along = rayWithSlope({}, slope, Travel::Left).direction;
+        const auto isBefore = [&](int ray, int front) {
+          const Point entry{state().entryX[ray].value(), state().entryY[ray].value()};
+          return dot(entry - wavePoint(ray, front), along) > 1e-9;
+        };
+        for (int i = 1; i < bench.recorded(); ++i) {
+          for (int j = 1; j <= 30; ++j) {
+            if (!isBefore(i, j) || !isBefore(i - 1, j)) continue;
+            ++pairs;
+            error.meet(dot(wavePoint(i, j) - wavePoint(i - 1, j), along));
+            // And 4 behind the front before it, counted from the plane through (130, 0).
+            error.meet(dot(wavePoint(i, j) - Point{130, 0}, along) - 4.0 * (j - 1));
+          }
+        }
+      }
+    }
+  }
+  EXPECT_GT(pairs, 100'000);
+  EXPECT_LT(error.value, 1e-9);
+  RecordProperty("largest", std::to_string(error.value * 1e12) + "e-12");
+}
+
+}  // namespace
+}  // namespace lensbench::protosfakos
