@@ -9,6 +9,6 @@ namespace lensbench {
 
 // Paints the 4-connected area of pixels that are not of the border colour around (x, y), and
 // returns its bounding rectangle: empty when the start lies outside the image or on the border.
-QRect floodFill(const Pixels& pixels, int x, int y, Pixel border, Pixel fill);
+QRect floodFill(const Pixels& pixels, int x, int y, PixelValue border, PixelValue fill);
 
 }  // namespace lensbench

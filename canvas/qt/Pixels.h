@@ -10,31 +10,31 @@
 
 namespace lensbench {
 
-using Pixel = quint32;
+using PixelValue = quint32;
 
-constexpr Pixel opaque(Rgb colour) noexcept {
-  return 0xFF000000u | static_cast<Pixel>(colour.red()) << 16 |
-         static_cast<Pixel>(colour.green()) << 8 | static_cast<Pixel>(colour.blue());
+constexpr PixelValue opaque(Rgb colour) noexcept {
+  return 0xFF000000u | static_cast<PixelValue>(colour.red()) << 16 |
+         static_cast<PixelValue>(colour.green()) << 8 | static_cast<PixelValue>(colour.blue());
 }
 
 // Valid only until the image is copied, resized or destroyed: take a new view for each operation.
 struct Pixels {
   explicit Pixels(QImage& image)
-      : first(reinterpret_cast<Pixel*>(image.bits())),
-        stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(Pixel))),
+      : first(reinterpret_cast<PixelValue*>(image.bits())),
+        stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue))),
         width(image.width()),
         height(image.height()) {}
 
-  Pixel* row(int y) const noexcept { return first + stride * y; }
+  PixelValue* row(int y) const noexcept { return first + stride * y; }
 
   // Paints columns from to (until - 1) of a row of the image, as far as they lie in it.
-  void fill(int y, int from, int until, Pixel colour) const noexcept {
-    Pixel* const line = row(y);
+  void fill(int y, int from, int until, PixelValue colour) const noexcept {
+    PixelValue* const line = row(y);
     std::fill(line + std::max(from, 0), line + std::max(std::min(until, width), std::max(from, 0)),
               colour);
   }
 
-  Pixel* first;
+  PixelValue* first;
   std::ptrdiff_t stride;
   int width;
   int height;

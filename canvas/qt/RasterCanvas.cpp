@@ -19,15 +19,13 @@ namespace {
 constexpr double dotLength = 2.0;
 constexpr double dotPeriod = 4.0;
 
-int imagePixels(double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); }
+int imagePixels(double pixels) { return std::max(1, static_cast<int>(pixels + 0.5)); }
 
 Box boxOf(const Pixels& pixels, double margin) {
   return {-margin, -margin, pixels.width + margin, pixels.height + margin};
 }
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
-
-Point asPoint(FarPoint p) { return {static_cast<double>(p.x), static_cast<double>(p.y)}; }
 
 // The bounding rectangle of figures around a segment, cut to the image.
 QRect around(const Pixels& pixels, const Segment& s, double margin) {
@@ -45,7 +43,7 @@ QRect around(const Pixels& pixels, const Segment& s, double margin) {
 
 // A pen in image pixels.
 struct RasterCanvas::Stroke {
-  Pixel colour;
+  PixelValue colour;
   int width;
   bool dotted;
 
@@ -58,12 +56,13 @@ RasterCanvas::RasterCanvas(QSize logical, double devicePixelRatio, int oversampl
     : logical_(logical.expandedTo({1, 1})),
       ratio_(devicePixelRatio),
       oversampling_(std::max(1, oversampling)),
+      mapping_(currentMapping()),
       image_(imageSize(logical_, imagePixelsPerPixel()), QImage::Format_RGB32) {
   image_.fill(opaque(painted(BackColor())));
   dirty_ = image_.rect();
 }
 
-UserMapping RasterCanvas::mapping() const {
+UserMapping RasterCanvas::currentMapping() const {
   return {ScaleLeft(), ScaleTop(), ScaleX(1.0, ScaleUnit::User, ScaleUnit::Pixel),
           ScaleY(1.0, ScaleUnit::User, ScaleUnit::Pixel)};
 }
@@ -84,6 +83,7 @@ void RasterCanvas::resize(QSize logical, double devicePixelRatio) {
   logical_ = size;
   ratio_ = devicePixelRatio;
   keepScaleAfterResize(old.width(), old.height());
+  mapping_ = currentMapping();
   resample(oldPixelsPerPixel);
 }
 
@@ -116,7 +116,7 @@ QRect RasterCanvas::takeDirty() {
   return changed;
 }
 
-void RasterCanvas::markDirty(const QRect& changed) {
+inline void RasterCanvas::markDirty(const QRect& changed) {
   if (changed.isEmpty()) return;
   if (dirty_.isEmpty()) {
     dirty_ = changed;
@@ -128,15 +128,20 @@ void RasterCanvas::markDirty(const QRect& changed) {
                    std::max(dirty_.bottom(), changed.bottom()));
 }
 
-FarPoint RasterCanvas::toImage(Point user) const {
-  const UserMapping map = mapping();
+FarPoint RasterCanvas::toImageFar(Point user) const {
   const auto scale = static_cast<long double>(imagePixelsPerPixel());
-  const auto x = (static_cast<long double>(user.x) - map.left) * map.xPixels;
-  const auto y = (static_cast<long double>(user.y) - map.top) * map.yPixels;
+  const auto x = (static_cast<long double>(user.x) - mapping_.left) * mapping_.xPixels;
+  const auto y = (static_cast<long double>(user.y) - mapping_.top) * mapping_.yPixels;
   return {(x + 0.5L) * scale, (y + 0.5L) * scale};
 }
 
-RasterCanvas::Stroke RasterCanvas::stroke(const Pen& pen) const {
+inline Point RasterCanvas::toImage(Point user) const noexcept {
+  const double scale = imagePixelsPerPixel();
+  const Point pixel = mapping_.toPixel(user);
+  return {(pixel.x + 0.5) * scale, (pixel.y + 0.5) * scale};
+}
+
+inline RasterCanvas::Stroke RasterCanvas::stroke(const Pen& pen) const {
   return {opaque(pen.colour), imagePixels(pen.width * imagePixelsPerPixel()),
           pen.style == lensbench::DrawStyle::Dotted && pen.width == 1};
 }
@@ -151,7 +156,7 @@ void RasterCanvas::strokeLine(Point from, Point to, const Pen& pen) {
   if (from.y > to.y || (from.y == to.y && from.x > to.x)) std::swap(from, to);
   const Stroke pencil = stroke(pen);
   const Pixels pixels(image_);
-  const auto visible = clipped(toImage(from), toImage(to), boxOf(pixels, pencil.margin()));
+  const auto visible = clipped(toImageFar(from), toImageFar(to), boxOf(pixels, pencil.margin()));
   if (!visible) return;
   if (pencil.dotted) {
     // The dots have fixed places along the endless line, so clipping does not shift them.
@@ -200,8 +205,8 @@ void RasterCanvas::paintDashes(const Pixels& pixels, const Stroke& pencil, const
 void RasterCanvas::strokeCircle(Point centre, double radius, const Pen& pen,
                                 std::optional<Rgb> fill) {
   if (fill) {
-    const Point middle = asPoint(toImage(centre));
-    const double reach = radius * std::fabs(mapping().xPixels) * imagePixelsPerPixel();
+    const Point middle = toImage(centre);
+    const double reach = radius * std::fabs(mapping_.xPixels) * imagePixelsPerPixel();
     if (isFinite(middle) && std::isfinite(reach)) {
       const Pixels pixels(image_);
       fillDisc(pixels, middle, reach, opaque(*fill));
@@ -218,12 +223,11 @@ void RasterCanvas::strokeArc(Point centre, double radius, const Pen& pen, double
 
 void RasterCanvas::paintArc(Point centre, double radius, const Pen& pen, double start,
                             double sweep) {
-  const UserMapping map = mapping();
-  const Point middle = asPoint(toImage(centre));
-  const double reach = radius * std::fabs(map.xPixels) * imagePixelsPerPixel();
+  const Point middle = toImage(centre);
+  const double reach = radius * std::fabs(mapping_.xPixels) * imagePixelsPerPixel();
   if (!isFinite(middle) || !std::isfinite(reach)) return;
   // Where x grows leftward, so does angle 0 point.
-  const double zero = map.xPixels < 0.0 ? std::numbers::pi : 0.0;
+  const double zero = mapping_.xPixels < 0.0 ? std::numbers::pi : 0.0;
   const Stroke pencil = stroke(pen);
   const Pixels pixels(image_);
   const Box box = boxOf(pixels, pencil.margin());
@@ -244,19 +248,23 @@ void RasterCanvas::paintArc(Point centre, double radius, const Pen& pen, double 
 }
 
 void RasterCanvas::paintDot(Point centre, const Pen& pen) {
-  const Point middle = asPoint(toImage(centre));
-  const Stroke pencil = stroke(pen);
+  const Point middle = toImage(centre);
+  const int width = stroke(pen).width;
   const Pixels pixels(image_);
   // Also where the numbers no longer fit a pixel index.
-  if (!(middle.x > -pencil.width && middle.x < pixels.width + pencil.width &&
-        middle.y > -pencil.width && middle.y < pixels.height + pencil.width)) {
+  if (!(middle.x > -width && middle.x < pixels.width + width && middle.y > -width &&
+        middle.y < pixels.height + width)) {
     return;
   }
-  if (stamp_.diameter() != pencil.width) stamp_ = DotStamp(pencil.width);
-  const int left = static_cast<int>(std::floor(middle.x - pencil.radius() + 0.5));
-  const int top = static_cast<int>(std::floor(middle.y - pencil.radius() + 0.5));
-  stamp_.paint(pixels, left, top, pencil.colour);
-  markDirty(QRect(left, top, pencil.width, pencil.width));
+  if (stamp_.diameter() != width) stamp_ = DotStamp(width);
+  // The upper-left pixel is the nearest to half a width before the middle; lifted above zero,
+  // where truncation rounds down.
+  const int lift = 2 * width;
+  const double corner = lift + 0.5 - width / 2.0;
+  const int left = static_cast<int>(middle.x + corner) - lift;
+  const int top = static_cast<int>(middle.y + corner) - lift;
+  stamp_.paint(pixels, left, top, opaque(pen.colour));
+  markDirty(QRect(left, top, width, width));
 }
 
 double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Font& font,
@@ -269,7 +277,7 @@ double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Fon
   const double lineHeight = metrics.lineSpacing() / scale;
 
   // The corner of the pixel, not its middle, is where text begins.
-  const Point middle = asPoint(toImage(upperLeft));
+  const Point middle = toImage(upperLeft);
   const QPointF corner(middle.x - scale / 2.0, middle.y - scale / 2.0);
   const QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   const QPointF baseline(corner.x(), corner.y() + metrics.ascent());
@@ -294,8 +302,10 @@ bool RasterCanvas::fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) {
   return !filled.isEmpty();
 }
 
-void RasterCanvas::scaleAboutToChange() { oldMapping_ = mapping(); }
-
-void RasterCanvas::scaleChanged() { emit scaleReplaced(oldMapping_); }
+void RasterCanvas::scaleChanged() {
+  const UserMapping old = mapping_;
+  mapping_ = currentMapping();
+  emit scaleReplaced(old);
+}
 
 }  // namespace lensbench

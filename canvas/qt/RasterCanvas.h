@@ -41,7 +41,7 @@ class RasterCanvas final : public QObject, public Canvas {
   QSize size() const noexcept { return logical_; }
   double devicePixelRatio() const noexcept { return ratio_; }
   int oversampling() const noexcept { return oversampling_; }
-  UserMapping mapping() const;
+  const UserMapping& mapping() const noexcept { return mapping_; }
 
   // A new client area, at least 1 x 1. The picture stays at the upper left, a new strip has
   // BackColor, and a user scale keeps its pixels per unit.
@@ -66,7 +66,6 @@ class RasterCanvas final : public QObject, public Canvas {
   void paintDot(Point centre, const Pen& pen) override;
   double paintText(Point upperLeft, std::string_view text, const Font& font, Rgb colour) override;
   bool fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) override;
-  void scaleAboutToChange() override;
   void scaleChanged() override;
 
  private:
@@ -74,7 +73,9 @@ class RasterCanvas final : public QObject, public Canvas {
 
   double imagePixelsPerPixel() const noexcept { return ratio_ * oversampling_; }
   QSize imageSize(QSize logical, double pixelsPerPixel) const;
-  FarPoint toImage(Point user) const;
+  UserMapping currentMapping() const;
+  FarPoint toImageFar(Point user) const;
+  Point toImage(Point user) const noexcept;
   Stroke stroke(const Pen& pen) const;
   void paintArc(Point centre, double radius, const Pen& pen, double start, double sweep);
   void paintPiece(const Pixels& pixels, const Stroke& stroke, const Segment& line);
@@ -85,10 +86,10 @@ class RasterCanvas final : public QObject, public Canvas {
   QSize logical_;
   double ratio_;
   int oversampling_;
+  UserMapping mapping_;  // follows from scale and size; kept because every dot needs it
   QImage image_;
   QRect dirty_;
   DotStamp stamp_{1};
-  UserMapping oldMapping_{};
 };
 
 }  // namespace lensbench

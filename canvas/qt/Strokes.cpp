@@ -79,7 +79,7 @@ class Capsule {
 
 }  // namespace
 
-void strokeThin(const Pixels& pixels, const Segment& line, Pixel colour) {
+void strokeThin(const Pixels& pixels, const Segment& line, PixelValue colour) {
   Point from = line.from;
   Point to = line.to;
   if (runsBackwards(line)) std::swap(from, to);
@@ -104,7 +104,7 @@ void strokeThin(const Pixels& pixels, const Segment& line, Pixel colour) {
   } else {
     Fixed x = toFixed(from.x);
     const Fixed step = toFixed((to.x - from.x) / rows);
-    Pixel* line_ = pixels.row(j1);
+    PixelValue* line_ = pixels.row(j1);
     for (int j = j1; j < j2; ++j, x += step, line_ += pixels.stride) {
       line_[std::clamp(whole(x), std::min(i1, i2), std::max(i1, i2))] = colour;
     }
@@ -112,7 +112,7 @@ void strokeThin(const Pixels& pixels, const Segment& line, Pixel colour) {
   pixels.row(j2)[i2] = colour;
 }
 
-void strokeRound(const Pixels& pixels, const Segment& line, double radius, Pixel colour) {
+void strokeRound(const Pixels& pixels, const Segment& line, double radius, PixelValue colour) {
   Segment down{{line.from.x - tieBreak, line.from.y - tieBreak},
                {line.to.x - tieBreak, line.to.y - tieBreak}};
   if (runsBackwards(line)) std::swap(down.from, down.to);
@@ -145,7 +145,7 @@ void strokeRound(const Pixels& pixels, const Segment& line, double radius, Pixel
   for (int j = bodyBottom; j < bottom; ++j) roundRow(j);
 }
 
-void fillDisc(const Pixels& pixels, Point centre, double radius, Pixel colour) {
+void fillDisc(const Pixels& pixels, Point centre, double radius, PixelValue colour) {
   const auto within = [](double value, int limit) {
     return static_cast<int>(std::clamp(std::ceil(value - 0.5), 0.0, double(limit)));
   };
@@ -164,8 +164,16 @@ DotStamp::DotStamp(int diameter) : inset_(static_cast<std::size_t>(diameter)) {
   }
 }
 
-void DotStamp::paint(const Pixels& pixels, int left, int top, Pixel colour) const noexcept {
+void DotStamp::paint(const Pixels& pixels, int left, int top, PixelValue colour) const noexcept {
   const int size = diameter();
+  if (left >= 0 && top >= 0 && left + size <= pixels.width && top + size <= pixels.height) {
+    PixelValue* corner = pixels.row(top) + left;
+    for (const int inset : inset_) {
+      for (int i = inset; i < size - inset; ++i) corner[i] = colour;
+      corner += pixels.stride;
+    }
+    return;
+  }
   const int from = std::max(0, -top);
   const int until = std::min(size, pixels.height - top);
   for (int j = from; j < until; ++j) {
