@@ -4,6 +4,9 @@ namespace lensbench {
 
 OptionButton::OptionButton(Form& form, const QString& name, const Place& place)
     : Control(form, name, place) {
+  // On the form's own background, not on a button's.
+  setBackgroundRole(QPalette::Window);
+  setForegroundRole(QPalette::WindowText);
   setAutoFillBackground(true);
   connect(this, &QRadioButton::clicked, this, &OptionButton::Click);
 }

@@ -224,6 +224,19 @@ TEST_F(Controls, FontNamesResolveToInstalledFacesAndTextIsNeverTiny) {
   }
 }
 
+TEST_F(Controls, TextStandsOnTheBackgroundOfTheForm) {
+  Label label(form, "label", {0, 0, 3000, 375});
+  CheckBox check(form, "check", {0, 375, 3000, 375});
+  OptionButton option(form, "option", {0, 750, 3000, 375});
+  form.canvas().DrawWidth(100);
+  form.canvas().Line(0, 0, 9000, 6000, RGB(255, 0, 0));
+  const QImage seen = form.drawingArea()->grab().toImage();
+  for (const QWidget* control : std::initializer_list<QWidget*>{&label, &check, &option}) {
+    EXPECT_EQ(seen.pixelColor(control->geometry().bottomRight()), QColor(Qt::white))
+        << control->objectName().toStdString();
+  }
+}
+
 TEST_F(Controls, WordsForThoseWhoCannotSeeThem) {
   ScrollBar bar(form, "aktina1", Qt::Horizontal, {0, 0, 1500, 300});
   describe(bar, "Ακτίνα · Radius", "Αλλάζει την ακτίνα. Changes the radius.");
