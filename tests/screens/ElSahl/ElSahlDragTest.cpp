@@ -1,0 +1,162 @@
+// Dragging the edges of the diaphragm.
+#include "tests/screens/ElSahl/ElSahlFixture.h"
+
+namespace lensbench {
+namespace {
+
+class ElSahlDrag : public ElSahlFixture {
+ protected:
+  void move(double x, double y) { screen.Form_MouseMove(1, 0, x, y); }
+  void drag(Point from, Point to) {
+    press(from.x, from.y);
+    move((from.x + to.x) / 2, (from.y + to.y) / 2);
+    move(to.x, to.y);
+    release(to.x, to.y);
+  }
+};
+
+TEST_F(ElSahlDrag, APressOnAnEdgeTakesItAndDrawsNothing) {
+  const QImage before = picture();
+  press(130, 10);
+  EXPECT_TRUE(screen.syromenigrammi1);
+  EXPECT_FALSE(screen.syromenigrammi2);
+  release(130, 10);
+  screen.canvas().Cls();
+  press(127, -60);
+  EXPECT_FALSE(screen.syromenigrammi1);
+  EXPECT_TRUE(screen.syromenigrammi2);
+  EXPECT_TRUE(blank());
+  EXPECT_EQ(108, state.pigiX.value());
+}
+
+TEST_F(ElSahlDrag, BesideAnEdgeAndInTheOpeningAPressPlacesTheSource) {
+  for (const Point p : {Point{126.9, 60}, Point{133.1, 60}, Point{130, 9.9}, Point{130, -9.9}}) {
+    press(p.x, p.y);
+    EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
+    EXPECT_EQ(p.x, state.pigiX.value());
+    EXPECT_EQ(p.y, state.pigiY.value());
+  }
+}
+
+TEST_F(ElSahlDrag, BothEdgesTakeTheAbscissaAndTheDraggedEndTheOrdinate) {
+  drag({130, 60}, {100, 30});
+  expectEdges(100, 30, -10);
+  drag({100, -60}, {95, -5});
+  expectEdges(95, 30, -5);
+}
+
+TEST_F(ElSahlDrag, TheReleaseClearsTheFlagsAndDrawsTheStoredSceneAnew) {
+  for (const bool biconvex : {false, true}) {
+    state.amfikyrtosSahl = biconvex;
+    screen.canvas().PSet(-100, -100, RGB(1, 2, 3));
+    const double x = screen.controls().Line1.X1();
+    drag({x, 60}, {100, 24});
+    EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
+    EXPECT_TRUE(shows([&] { fan(108, 25); }));
+  }
+}
+
+TEST_F(ElSahlDrag, TheUpperEndPushesTheLowerOneATenthBeyond) {
+  drag({130, 60}, {100, -50});
+  expectEdges(100, -50, -55);
+}
+
+TEST_F(ElSahlDrag, TheLowerEndPushesTheUpperOneATenthBeyond) {
+  drag({130, -60}, {100, 40});
+  expectEdges(100, 44, 40);
+}
+
+TEST_F(ElSahlDrag, OnlyWhereTheReleaseCrossesIsTheOtherEndPushed) {
+  press(130, 60);
+  move(110, -80);
+  expectEdges(110, -80, -88);
+  move(110, 20);
+  release(110, 20);
+  expectEdges(110, 20, -10);
+}
+
+TEST_F(ElSahlDrag, EndsThatMeetCloseTheDiaphragm) {
+  drag({130, 60}, {100, -10});
+  expectEdges(100, -10, -10);
+  drag({100, -60}, {100, -60});
+  expectEdges(100, -10, -60);
+}
+
+TEST_F(ElSahlDrag, AnEdgeDraggedOutOfTheWindowCanBeTakenAgain) {
+  drag({130, 60}, {400, 500});
+  const Point upper{screen.controls().Line1.X2(), screen.controls().Line1.Y2()};
+  EXPECT_TRUE(screen.drawingArea()->rect().contains(pixel(upper.x, upper.y)));
+  press(upper.x, upper.y);
+  EXPECT_TRUE(screen.syromenigrammi1);
+  release(upper.x, -300);
+  EXPECT_TRUE(screen.drawingArea()->rect().contains(
+      pixel(screen.controls().Line2.X2(), screen.controls().Line2.Y2())));
+  EXPECT_LE(screen.controls().Line2.Y2(), screen.controls().Line1.Y2());
+}
+
+TEST_F(ElSahlDrag, ADraggedEdgeIsSeenMovingWhileThePictureStands) {
+  press(108, 25);
+  release(108, 25);
+  const QImage before = picture();
+  const QPoint newPlace = pixel(20, 100);
+  QCoreApplication::processEvents();
+  const auto seen = [&] { return screen.drawingArea()->grab().toImage().pixelColor(newPlace); };
+  EXPECT_EQ(QColor(Qt::white), seen());
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(130, 60));
+  QTest::mouseMove(screen.drawingArea(), pixel(20, 60));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(QColor(0, 0, 192), seen());
+  EXPECT_EQ(before, picture());
+  QTest::mouseRelease(screen.drawingArea(), Qt::LeftButton, {}, pixel(20, 60));
+  EXPECT_NEAR(20, screen.controls().Line1.X1(), 0.5);
+  EXPECT_NEAR(60, screen.controls().Line1.Y2(), 0.5);
+}
+
+TEST_F(ElSahlDrag, ReleaseWithoutADragChangesNothing) {
+  press(90, 0);
+  const QImage before = picture();
+  release(20, 60);
+  EXPECT_EQ(before, picture());
+  expectEdges(130, 10, -10);
+}
+
+TEST_F(ElSahlDrag, BelowIndex1TheEdgesMoveAndThePictureStays) {
+  press(90, 0);
+  const QImage before = picture();
+  state.deiktisSahl = 0.5;
+  drag({130, 60}, {100, 30});
+  expectEdges(100, 30, -10);
+  EXPECT_EQ(before, picture());
+}
+
+TEST_F(ElSahlDrag, ThePointerIsACrossOverAnEdgeAndWhileOneIsDragged) {
+  move(0, 0);
+  EXPECT_EQ(1, screen.MousePointer());
+  EXPECT_EQ(Qt::ArrowCursor, screen.drawingArea()->cursor().shape());
+  move(130, 60);
+  EXPECT_EQ(2, screen.MousePointer());
+  EXPECT_EQ(Qt::CrossCursor, screen.drawingArea()->cursor().shape());
+  move(130, 0);
+  EXPECT_EQ(1, screen.MousePointer());
+  move(128, -11);
+  EXPECT_EQ(2, screen.MousePointer());
+  for (const double edge : {60.0, -60.0}) {
+    press(screen.controls().Line1.X1(), edge);
+    move(50, edge / 2);
+    EXPECT_EQ(2, screen.MousePointer());
+    release(50, edge / 2);
+    move(0, 0);
+    EXPECT_EQ(1, screen.MousePointer());
+  }
+}
+
+TEST_F(ElSahlDrag, AClosedDiaphragmBeforeTheLensStopsEveryRay) {
+  drag({130, 60}, {100, -10});
+  EXPECT_EQ(0, state.plithosaktinon.value());
+  drag({100, -60}, {100, -110});
+  drag({100, 60}, {100, 110});
+  EXPECT_GT(state.plithosaktinon.value(), 30);
+}
+
+}  // namespace
+}  // namespace lensbench
