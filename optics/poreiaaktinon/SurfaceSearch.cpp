@@ -75,29 +75,27 @@ std::optional<Crossing> firstCrossing(const Fakos& fakos, Point start, Point dir
   const Chord chord2 = chordOf(two, start, direction);
   if (chord1.half == 0.0 || chord2.half == 0.0) return std::nullopt;
 
-  double enter1 = chord1.enter();
-  double enter2 = chord2.enter();
+  const double enter = std::max(chord1.enter(), chord2.enter());
+  const double leave = std::min(chord1.leave(), chord2.leave());
+  if (leave <= 0.0 || leave <= enter) return std::nullopt;
+
+  // Which of the discs the start is in already, by standing on its face if not by lying inside.
+  bool within1 = chord1.enter() <= 0.0;
+  bool within2 = chord2.enter() <= 0.0;
   if (within(one, start, 1.0 + onFace) && within(two, start, 1.0 + onFace)) {
-    constexpr double behind = -std::numeric_limits<double>::infinity();
     if (!within(one, start, 1.0 - onFace)) {
       if (chord1.middle <= 0.0) return std::nullopt;
-      enter1 = behind;
+      within1 = true;
     }
     if (!within(two, start, 1.0 - onFace)) {
       if (chord2.middle <= 0.0) return std::nullopt;
-      enter2 = behind;
+      within2 = true;
     }
   }
-
-  const double leave = std::min(chord1.leave(), chord2.leave());
-  const double enter = std::max(enter1, enter2);
-  if (leave <= 0.0 || leave <= enter) return std::nullopt;
-  if (enter > 0.0) {
-    return enter1 > enter2 ? crossingAt(one, chord1, direction, true)
-                           : crossingAt(two, chord2, direction, true);
-  }
-  return chord1.leave() < chord2.leave() ? crossingAt(one, chord1, direction, false)
-                                         : crossingAt(two, chord2, direction, false);
+  if (within1 && within2) return exitCrossing(fakos, start, direction);
+  const bool last1 = within2 || (!within1 && chord1.enter() > chord2.enter());
+  return last1 ? crossingAt(one, chord1, direction, true)
+               : crossingAt(two, chord2, direction, true);
 }
 
 Crossing exitCrossing(const Fakos& fakos, Point start, Point direction) {

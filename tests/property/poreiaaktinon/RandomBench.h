@@ -1,0 +1,49 @@
+// Seeded random lenses, sources and directions, as the scroll bars and the mouse allow them.
+#pragma once
+
+#include <cmath>
+#include <numbers>
+#include <random>
+
+#include "optics/poreiaaktinon/RayPath.h"
+
+namespace lensbench::poreiaaktinon {
+
+class RandomBench {
+ public:
+  explicit RandomBench(unsigned seed) : engine_(seed) {}
+
+  double real(double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(engine_);
+  }
+  int whole(int low, int high) { return std::uniform_int_distribution<int>(low, high)(engine_); }
+
+  Fakos anyLens() {
+    return {static_cast<double>(whole(-500, 0)), static_cast<double>(whole(50, 500)),
+            static_cast<double>(whole(0, 500)), static_cast<double>(whole(0, 500))};
+  }
+  // Circles that cross.
+  Fakos lens() {
+    for (;;) {
+      const Fakos fakos = anyLens();
+      if (hasLens(fakos)) return fakos;
+    }
+  }
+  double index() { return whole(40, 250) / 100.0; }
+  Point source() { return {real(-384.0, 384.0), real(-216.0, 216.0)}; }
+  Point direction() {
+    const double angle = real(0.0, 2.0 * std::numbers::pi);
+    return {std::cos(angle), std::sin(angle)};
+  }
+  // No diaphragm: the ray runs until it ends by itself.
+  OpticalSetup setup() { return {lens(), index(), std::nullopt, edges}; }
+
+  static constexpr Edges edges{-384.0, 384.0, -216.0, 216.0};
+
+ private:
+  std::mt19937 engine_;
+};
+
+constexpr int lawRays = 100000;
+
+}  // namespace lensbench::poreiaaktinon
