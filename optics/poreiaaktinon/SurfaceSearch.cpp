@@ -64,8 +64,12 @@ bool meetsBothCircles(const Fakos& fakos, Point start, Point direction) {
 }  // namespace
 
 bool hasLens(const Fakos& fakos) {
-  const double thickness = (fakos.xc1 + fakos.R1) - (fakos.xc2 - fakos.R2);
-  return fakos.R1 > 0.0 && fakos.R2 > 0.0 && thickness > 0.0 && circlesCross(fakos);
+  const double distance = std::fabs(fakos.xc2 - fakos.xc1);
+  const double nested = std::fabs(fakos.R2 - fakos.R1);
+  if (fakos.R1 <= 0.0 || fakos.R2 <= 0.0) return false;
+  if (distance >= fakos.R1 + fakos.R2 || distance < nested) return false;
+  // A circle that touches the other from inside may be lost by a rounding.
+  return distance > nested || circlesCross(fakos);
 }
 
 std::optional<Crossing> firstCrossing(const Fakos& fakos, Point start, Point direction) {

@@ -1,0 +1,97 @@
+// The spherical optics beside the bare vector form of the same refractions: one ray through both
+// faces, the largest fan, and its wave points.
+#include <benchmark/benchmark.h>
+#include <cmath>
+#include <vector>
+
+#include "bench/Compare.h"
+#include "optics/poreiaaktinon/Bundles.h"
+#include "optics/poreiaaktinon/Vector.h"
+#include "optics/poreiaaktinon/Wavefront.h"
+
+namespace lensbench::poreiaaktinon {
+namespace {
+
+constexpr Fakos startLens{-50.0, 100.0, 20.0, 90.0};
+const OpticalSetup bench{
+    startLens, 1.5, Diafragma{0.0, 60.0, -60.0}, {-384.0, 384.0, -216.0, 216.0}};
+
+// Rays that all go through both faces.
+std::vector<Point> throughTheLens() {
+  std::vector<Point> directions;
+  for (int i = 0; i < 1000; ++i) directions.push_back(unit({1.0, -0.2 + 0.0004 * i}));
+  return directions;
+}
+
+// Entry by circle 2, exit by circle 1, no question asked.
+double bareRay(Point p, Point d, double n) {
+  const Point centre2{startLens.xc2, 0.0};
+  Point away = p - centre2;
+  double b = dot(away, d);
+  p = p + (-b - std::sqrt(b * b - dot(away, away) + startLens.R2 * startLens.R2)) * d;
+  Point normal = (1.0 / startLens.R2) * (p - centre2);
+  double cosine = -dot(normal, d);
+  double ratio = 1.0 / n;
+  d = ratio * d +
+      (ratio * cosine - std::sqrt(1.0 - ratio * ratio * (1.0 - cosine * cosine))) * normal;
+
+  const Point centre1{startLens.xc1, 0.0};
+  away = p - centre1;
+  b = dot(away, d);
+  p = p + (-b + std::sqrt(b * b - dot(away, away) + startLens.R1 * startLens.R1)) * d;
+  normal = (-1.0 / startLens.R1) * (p - centre1);
+  cosine = -dot(normal, d);
+  const double rest = 1.0 - n * n * (1.0 - cosine * cosine);
+  if (rest < 0.0) return p.y;
+  d = n * d + (n * cosine - std::sqrt(rest)) * normal;
+  return p.y + d.y;
+}
+
+void thousandRays(benchmark::State& state) {
+  const auto directions = throughTheLens();
+  compare(
+      state,
+      [&] {
+        for (const Point d : directions) {
+          benchmark::DoNotOptimize(tracePath(bench, {-200.0, 0.0}, d));
+        }
+      },
+      [&] {
+        for (const Point d : directions) {
+          benchmark::DoNotOptimize(bareRay({-200.0, 0.0}, d, 1.5));
+        }
+      });
+}
+BENCHMARK(thousandRays)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+// 3437 rays, the most that the controls allow; a bundle of 151.
+void largestFan(benchmark::State& state) {
+  const double vima = 4.0 * std::atan(1.0) * 5.0 / 150.0;
+  for ([[maybe_unused]] auto iteration : state) {
+    benchmark::DoNotOptimize(fanPaths(bench, {-200.0, 30.0}, vima));
+  }
+}
+BENCHMARK(largestFan)->Unit(benchmark::kMicrosecond);
+
+void bundle(benchmark::State& state) {
+  for ([[maybe_unused]] auto iteration : state) {
+    benchmark::DoNotOptimize(bundlePaths(bench, 0.3, 150));
+  }
+}
+BENCHMARK(bundle)->Unit(benchmark::kMicrosecond);
+
+// One front of an animation of 151 rays.
+void frontOfABundle(benchmark::State& state) {
+  const auto paths = bundlePaths(bench, 0.3, 150);
+  double L = 0.0;
+  for ([[maybe_unused]] auto iteration : state) {
+    for (const RayPath& path : paths) benchmark::DoNotOptimize(pointAtOpticalPath(path, L));
+    L = L < 600.0 ? L + 2.5 : 0.0;
+  }
+}
+BENCHMARK(frontOfABundle)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace lensbench::poreiaaktinon
+
+BENCHMARK_MAIN();
