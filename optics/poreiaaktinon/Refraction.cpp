@@ -49,13 +49,4 @@ std::optional<Point> stoppedAt(const Diafragma& diafragma, Point start, Point di
   return std::nullopt;
 }
 
-std::optional<Point> refracted(Point direction, Point normal, double ratio) {
-  const Point tangent = turned(normal);
-  const double sine = ratio * dot(direction, tangent);
-  if (std::fabs(sine) > 1.0) return std::nullopt;
-  const double cosine =
-      std::copysign(std::sqrt((1.0 - sine) * (1.0 + sine)), dot(direction, normal));
-  return sine * tangent + cosine * normal;
-}
-
 }  // namespace lensbench::poreiaaktinon

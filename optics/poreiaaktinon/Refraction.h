@@ -1,11 +1,13 @@
 // Refraction at one circular surface, and the diaphragm that a ray may be stopped by.
 #pragma once
 
+#include <cmath>
 #include <optional>
 
 #include "canvas/Canvas.h"
 #include "canvas/Variant.h"
 #include "optics/poreiaaktinon/Numbers.h"
+#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Workbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -50,6 +52,13 @@ std::optional<Point> stoppedAt(const Diafragma& diafragma, Point start, Point di
 // Snell's law in double. direction and normal are of unit length, ratio is the index on this side
 // over that on the far side. The ray keeps its side of the normal and its sense of travel. Returns
 // a unit direction, nothing at total reflection.
-std::optional<Point> refracted(Point direction, Point normal, double ratio);
+inline std::optional<Point> refracted(Point direction, Point normal, double ratio) {
+  const Point tangent = turned(normal);
+  const double sine = ratio * dot(direction, tangent);
+  if (std::fabs(sine) > 1.0) return std::nullopt;
+  const double cosine =
+      std::copysign(std::sqrt((1.0 - sine) * (1.0 + sine)), dot(direction, normal));
+  return sine * tangent + cosine * normal;
+}
 
 }  // namespace lensbench::poreiaaktinon
