@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # A display in memory with a window manager, on which the program can be shown to nobody.
-# To be sourced; start_display sets DISPLAY and takes the display away when the shell ends.
+# To be sourced; start_display sets DISPLAY, stop_display takes the display away again.
 
 display_processes=()
 
@@ -18,7 +18,6 @@ start_display() {
   local size=$1 scratch number tries
   scratch=$(mktemp -d)
   touch "$scratch/number"
-  trap stop_display EXIT
   Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset \
     3>"$scratch/number" 2>"$scratch/server" &
   display_processes+=($!)

@@ -6,7 +6,15 @@
 # Height of a window's menu bar, pixels.
 menu_bar=${menu_bar:-19}
 program=
-log=
+scratch=$(mktemp -d)
+log=$scratch/log
+
+clean_up() {
+  if [[ -n $program ]]; then kill "$program" 2>/dev/null || true; fi
+  stop_display
+  rm -rf "$scratch"
+}
+trap clean_up EXIT
 
 fail() {
   echo "FAILED: $*" >&2
@@ -14,17 +22,14 @@ fail() {
   exit 1
 }
 
-# start_program EXECUTABLE: leaves its process number in `program`, what it says in `log`.
+# start_program EXECUTABLE: leaves its process number in `program`; what it says goes to `log`.
 start_program() {
   if [[ ! -x $1 ]]; then fail "no program $1"; fi
-  rm -f "$log"
-  log=$(mktemp)
   "$1" >"$log" 2>&1 &
   program=$!
-  trap 'kill "$program" 2>/dev/null || true; rm -f "$log"; stop_display' EXIT
 }
 
-program_runs() { kill -0 "$program" 2>/dev/null; }
+program_runs() { [[ -n $program ]] && kill -0 "$program" 2>/dev/null; }
 
 # expect_end STATUS: waits up to ten seconds for the program to end, with that exit status.
 expect_end() {
@@ -35,6 +40,7 @@ expect_end() {
   done
   if program_runs; then fail "the program should have ended"; fi
   wait "$program" || status=$?
+  program=
   if ((status != $1)); then fail "the program ended with status $status, not $1"; fi
 }
 
@@ -118,9 +124,11 @@ shift_click() {
 # activate WINDOW: brings it to the front, where keys go.
 activate() { xdotool windowactivate --sync "$1"; }
 key() { xdotool key --clearmodifiers --delay 20 "$@"; }
+# answer TITLE-PATTERN TEXT: types the text into that input box and accepts it.
 answer() {
+  activate "$(window "$1")"
   key ctrl+a
-  xdotool type --delay 20 "$1"
+  xdotool type --delay 20 "$2"
   key Return
 }
 
@@ -140,10 +148,10 @@ open_diaphragm() {
   drag "$1" $(at_bench "$1" "$2" -100) $(at_bench "$1" "$2" $((-$3)))
 }
 
-# settle: until the display has stopped changing (or three seconds have passed).
+# settle [SECONDS]: until the display has stopped changing, or that time (3 seconds) has passed.
 settle() {
-  local now before= tries
-  for ((tries = 0; tries < 20; ++tries)); do
+  local now before='' until=$((SECONDS + ${1:-3}))
+  while ((SECONDS <= until)); do
     sleep 0.15
     now=$(import -silent -window root rgb:- | cksum)
     if [[ $now == "$before" ]]; then return; fi

@@ -38,8 +38,7 @@ fan() {
 
 bundle() {
   menu "$bench" 2
-  window "Lens Bench" >/dev/null
-  answer 20
+  answer "Lens Bench" 20
   picture bundle
 }
 
@@ -47,8 +46,7 @@ bundle() {
 waves() {
   click "$bench" $waves_and_rays
   menu "$bench" 2
-  window "Lens Bench" >/dev/null
-  answer 20
+  answer "Lens Bench" 20
   picture bundle-with-waves
   shift_click "$bench" $(at_bench "$bench" -260 50)
   picture fan-with-waves
@@ -63,7 +61,7 @@ waves_in_time() {
     sleep 0.9
     frame "$1-$moment"
   done
-  settle
+  settle 10
 }
 plane_waves() { waves_in_time plane-waves 4; }
 waves_of_a_point() { waves_in_time waves-of-a-point 5; }
@@ -106,8 +104,7 @@ biconvex() {
   click "$sahl" $(at_sahl "$sahl" 108 -10)
   picture ibn-sahl-biconvex "$sahl"
   menu "$sahl" 1
-  window "Angle in" >/dev/null
-  answer 10
+  answer "Angle in" 10
   picture ibn-sahl-biconvex-bundle "$sahl"
 }
 

@@ -17,7 +17,7 @@ snapshot "$scratch/point_1.png" "$bench"
 sleep 0.5
 snapshot "$scratch/point_2.png" "$bench"
 expect_different point_1 point_2
-sleep 10
+settle 60
 shot rest_1
 sleep 1
 shot rest_2

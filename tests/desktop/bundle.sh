@@ -5,23 +5,21 @@ open_diaphragm "$bench" -120 130
 shot scene
 
 menu "$bench" 2
-window "Lens Bench" >/dev/null
+activate "$(window "Lens Bench")"
 key Escape
 no_window "Lens Bench"
 shot cancelled
 expect_same scene cancelled
 
 menu "$bench" 2
-window "Lens Bench" >/dev/null
-answer 0
+answer "Lens Bench" 0
 no_window "Lens Bench"
 shot level
 expect_some level "$ray_in_air" 3000
 expect_some level "$ray_in_glass" 500
 
 menu "$bench" 2
-window "Lens Bench" >/dev/null
-answer 22.5
+answer "Lens Bench" 22.5
 no_window "Lens Bench"
 shot slanting
 expect_some slanting "$ray_in_glass" 500

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2046
-# What the desktop tests share: a scratch folder, the program on a display, questions to pictures.
+# What the desktop tests share: the program on a display, and questions to pictures.
 # To be sourced by a test that got the program as its first argument.
 set -euo pipefail
 root=$(dirname "${BASH_SOURCE[0]}")/../..
@@ -7,7 +7,6 @@ source "$root/packaging/display.sh"
 source "$root/packaging/robot.sh"
 
 executable=$1
-scratch=$(mktemp -d)
 
 # What a test's figures are made of.
 ray_in_air='rgb(255,0,0)'
@@ -18,7 +17,6 @@ glass='rgb(220,220,195)'
 begin() {
   start_display "${1:-1366x768}"
   start_program "$executable"
-  trap 'kill "$program" 2>/dev/null || true; rm -rf "$log" "$scratch"; stop_display' EXIT
   bench=$(window "SPHERICAL  LENSES")
   settle
 }
@@ -29,7 +27,7 @@ end() {
   expect_end 0
 }
 
-# shot NAME [WINDOW]: a picture at rest. The pointer is parked first, or a tool tip may come.
+# shot NAME [WINDOW]: a picture at rest.
 shot() {
   settle
   snapshot "$scratch/$1.png" "${2:-$bench}"
