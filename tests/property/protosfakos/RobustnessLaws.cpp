@@ -137,6 +137,37 @@ TEST(Robustness, EveryPathIsFinite) {
   }));
 }
 
+// Rounding puts such a source on either side of the face; what its rays do must not depend on it.
+TEST(Robustness, SourcesOnAFaceEnterThereOrMiss) {
+  RandomRays random(42);
+  int entering = 0;
+  for (int i = 0; i < lawRays; ++i) {
+    const double n = random.index();
+    const double b = deriveLens(n)->b;
+    const Glass glass = biconvex(12, b, n);
+    const double y = random.between(-0.9, 0.9) * rimHalfHeight(b);
+    const bool right = i % 2 == 0;
+    const double curve = 12 * std::hypot(1.0, y / b);
+    const Point start{right ? 96 - curve : curve, y};
+    const auto normal = outwardNormal(glass.faces[right ? 1 : 0], start);
+    const double angle = random.between(0, 2 * std::numbers::pi);
+    const Point direction{std::cos(angle), std::sin(angle)};
+    const double outwards = dot(direction, normal.value_or(Point{1, 0}));
+    if (!normal || std::fabs(outwards) < 0.01) continue;
+    const RayPath path = trace(glass, {start, direction}, wideOpen);
+    if (outwards > 0) {
+      ASSERT_EQ(path.ending, Ending::Missed);
+    } else {
+      ++entering;
+      ASSERT_NE(path.ending, Ending::Missed);
+      ASSERT_FALSE(path.startsInGlass);
+      ASSERT_TRUE(path.entryNormal);
+      ASSERT_LT(length(path.entry - start), 1e-9);
+    }
+  }
+  EXPECT_GT(entering, lawRays / 3);
+}
+
 TEST(Robustness, PointsMetAreOnTheirFaces) {
   RandomRays random(41);
   Largest error;
