@@ -90,7 +90,7 @@ TEST(Kymata, IndexZeroIsDivisionByZero) {
   EXPECT_EQ(errorNumber([] { kymatapigis(0); }), 11);
 }
 
-TEST(Kymata, NegativeLengthIsToldOnceAndThePointsAreStored) {
+TEST(Kymata, NegativeLengthIsToldOnceForASceneAndThePointsAreStored) {
   SahlBench bench(2.0);
   recordRay(0);
   recordRay(1);
@@ -99,6 +99,10 @@ TEST(Kymata, NegativeLengthIsToldOnceAndThePointsAreStored) {
   kymatapigis(1);
   EXPECT_EQ(bench.screen.messages, std::vector<std::string>{"  ARNHTIKO"});
   EXPECT_FALSE(state().kymataX[1][30].isEmpty());
+  state().clearRays();
+  recordRay(0);
+  kymatapigis(0);
+  EXPECT_EQ(bench.screen.messages.size(), 2u);
 }
 
 TEST(Kymata, NoScenesShowTheMessage) {
