@@ -36,16 +36,20 @@ void KelmoControls::arrange(int width, int height) {
   const int column1 = gap;
   const int column2 = column1 + sliderLength + gap + circle1Text + 2 * gap;
   const int column2Right = column2 + sliderLength + gap + circle2Text;
-  const int column3 = barLeft - gap - lightText - gap - sliderLength;
+  // On a window too narrow for all three, the light goes below the circles.
+  const int lightLeft = barLeft - gap - lightText - gap - sliderLength;
+  const bool narrow = lightLeft < column2Right + gap;
+  const int column3 = narrow ? column1 : lightLeft;
+  const int lightTop = narrow ? top + 3 * row : top;
 
   placeRow(aktina1, Text6, column1, top, circle1Text);
   kentrokykloy2.setGeometry(column1, top + row + (rowHeight - barThickness) / 2, sliderLength,
                             barThickness);
   placeRow(aktina2, Text5, column2, top, circle2Text);
   placeRow(kentrokykloy, Text7, column2, top + row, circle2Text);
-  placeRow(deiktisdiathlasis, Text2, column3, top, lightText);
-  placeRow(desmi1, Text1, column3, top + row, lightText);
-  placeRow(arvimaton, Label3, column3, top + 2 * row, lightText);
+  placeRow(deiktisdiathlasis, Text2, column3, lightTop, lightText);
+  placeRow(desmi1, Text1, column3, lightTop + row, lightText);
+  placeRow(arvimaton, Label3, column3, lightTop + 2 * row, lightText);
   Check1.setGeometry(column1, top + 2 * row, column2 - column1 - gap, rowHeight);
   Check2.setGeometry(column2, top + 2 * row, column2Right - column2, rowHeight);
 
