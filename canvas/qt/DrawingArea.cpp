@@ -29,7 +29,18 @@ void DrawingArea::fitCanvas() {
   if (canvas_.size() != old) emit canvasResized();
 }
 
-void DrawingArea::resizeEvent(QResizeEvent*) { fitCanvas(); }
+void DrawingArea::releaseSizeSoon() {
+  constexpr int moment = 400;  // ms, several times what a window manager needs
+  QTimer::singleShot(moment, this, [this] {
+    if (!isVisible()) return;
+    sizeHeld_ = false;
+    fitCanvas();
+  });
+}
+
+void DrawingArea::resizeEvent(QResizeEvent*) {
+  if (!sizeHeld_) fitCanvas();
+}
 
 // What one handler draws is shown together, when it has returned.
 void DrawingArea::showSoon() {

@@ -17,6 +17,11 @@ class DrawingArea : public QWidget {
   RasterCanvas& canvas() noexcept { return canvas_; }
   // Gives the canvas the size and the pixel ratio that the widget has.
   void fitCanvas();
+  // Between these the canvas does not follow the size of the widget: a maximised window that is
+  // hidden and shown anew is small for a while, and that must not cut the picture. The release
+  // takes effect a moment later.
+  void holdSize() { sizeHeld_ = true; }
+  void releaseSizeSoon();
 
  signals:
   // In logical pixels of the area.
@@ -40,6 +45,7 @@ class DrawingArea : public QWidget {
   RasterCanvas canvas_;
   QImage display_;  // the picture in device pixels
   bool showPending_ = false;
+  bool sizeHeld_ = false;
 };
 
 }  // namespace lensbench

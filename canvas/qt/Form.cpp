@@ -150,11 +150,17 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
+  area_->releaseSizeSoon();
   if (!shown_) {
     shown_ = true;
     qApp->installEventFilter(this);
   }
   fitFrame();
+}
+
+void Form::hideEvent(QHideEvent* event) {
+  if (isMaximized()) area_->holdSize();
+  QMainWindow::hideEvent(event);
 }
 
 void Form::resizeEvent(QResizeEvent* event) {

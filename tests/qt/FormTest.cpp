@@ -145,6 +145,28 @@ TEST(Form, FillsTheDisplayWhenAskedTo) {
   EXPECT_EQ(form.canvas().size(), form.drawingArea()->size());
 }
 
+// What some window managers do to a maximised window that is shown anew.
+TEST(Form, AMaximisedFormThatIsSmallForAnInstantKeepsItsPicture) {
+  Form form(design);
+  form.fillDisplay();
+  form.Show();
+  QTest::qWait(20);
+  const QSize full = form.size();
+  form.canvas().DrawWidth(30);
+  form.canvas().Line(0, 0, form.canvas().ScaleWidth(), form.canvas().ScaleHeight(), red);
+  const QImage before = form.canvas().image().copy();
+  form.Hide();
+  form.Show();
+  form.resize(300, 200);
+  QTest::qWait(20);
+  form.resize(full);
+  QTest::qWait(20);
+  EXPECT_EQ(form.canvas().image(), before);
+  form.resize(300, 200);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form.canvas().size() == form.drawingArea()->size(); }));
+  EXPECT_EQ(form.canvas().size().width(), 300);
+}
+
 struct Mouse {
   int button, shift;
   double x, y;

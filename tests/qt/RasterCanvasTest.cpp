@@ -319,9 +319,10 @@ TEST(RasterCanvas, TextAfterClsStandsAtTheOriginAndGreekIsDrawn) {
 
 TEST(RasterCanvas, AnUnbrokenBorderHoldsTheFillAtEveryRadius) {
   for (const Point offset : {Point{0.0, 0.0}, Point{0.5, 0.5}, Point{0.31, -0.73}}) {
+    RasterCanvas canvas({1024, 1024});
+    centre(canvas);
     for (int radius = 1; radius <= 500; ++radius) {
-      RasterCanvas canvas({1024, 1024});
-      centre(canvas);
+      canvas.Cls();
       canvas.Circle(offset.x, offset.y, radius, black);
       canvas.FillColor(green);
       canvas.FloodFill(512, 512, black);
@@ -334,12 +335,13 @@ TEST(RasterCanvas, AnUnbrokenBorderHoldsTheFillAtEveryRadius) {
 }
 
 TEST(RasterCanvas, AnUnbrokenBorderHoldsTheFillOfAnOversampledImage) {
-  for (int radius = 1; radius <= 250; ++radius) {
-    RasterCanvas canvas({520, 520}, 1.0, 2);
-    centre(canvas);
+  RasterCanvas canvas({1040, 1040}, 1.0, 2);
+  centre(canvas);
+  for (int radius = 1; radius <= 500; ++radius) {
+    canvas.Cls();
     canvas.Circle(0.37, 0.11, radius, black);
     canvas.FillColor(green);
-    canvas.FloodFill(260, 260, black);
+    canvas.FloodFill(520, 520, black);
     ASSERT_EQ(colourAt(canvas.image(), 0, 0), white) << "leaked at radius " << radius;
   }
 }
