@@ -43,7 +43,6 @@ void SahlControls::placeOptions() {
   for (QWidget* option : {static_cast<QWidget*>(&kymataYESNO), static_cast<QWidget*>(&RAYSANDWAVES),
                           static_cast<QWidget*>(&onlyrays)}) {
     const QSize needed = option->sizeHint().expandedTo(option->size());
-    option->setBackgroundRole(QPalette::Window);
     option->setGeometry(std::max(option->x(), free), option->y(), needed.width(), needed.height());
     free = option->x() + option->width();
     if (previous != nullptr) QWidget::setTabOrder(previous, option);

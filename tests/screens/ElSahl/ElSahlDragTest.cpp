@@ -112,6 +112,13 @@ TEST_F(ElSahlDrag, ADraggedEdgeIsSeenMovingWhileThePictureStands) {
   EXPECT_NEAR(60, screen.controls().Line1.Y2(), 0.5);
 }
 
+TEST_F(ElSahlDrag, AnotherButtonDoesNotEndADrag) {
+  press(130, 60);
+  screen.Form_MouseUp(2, 0, 60, 40);
+  EXPECT_TRUE(screen.syromenigrammi1);
+  expectEdges(130, 10, -10);
+}
+
 TEST_F(ElSahlDrag, ReleaseWithoutADragChangesNothing) {
   press(90, 0);
   const QImage before = picture();
@@ -140,6 +147,10 @@ TEST_F(ElSahlDrag, ThePointerIsACrossOverAnEdgeAndWhileOneIsDragged) {
   EXPECT_EQ(1, screen.MousePointer());
   move(128, -11);
   EXPECT_EQ(2, screen.MousePointer());
+  press(130, 60);
+  move(300, 300);
+  EXPECT_EQ(2, screen.MousePointer());
+  release(130, 10);
   for (const double edge : {60.0, -60.0}) {
     press(screen.controls().Line1.X1(), edge);
     move(50, edge / 2);
