@@ -28,7 +28,6 @@ struct Chord {
   double middle;  // distance from the start to the foot along the ray
   double half;    // half the chord; 0 when the line does not enter the disc
 
-  double enter() const { return middle - half; }
   double leave() const { return middle + half; }
 };
 
@@ -79,13 +78,17 @@ std::optional<Crossing> firstCrossing(const Fakos& fakos, Point start, Point dir
   const Chord chord2 = chordOf(two, start, direction);
   if (chord1.half == 0.0 || chord2.half == 0.0) return std::nullopt;
 
-  const double enter = std::max(chord1.enter(), chord2.enter());
-  const double leave = std::min(chord1.leave(), chord2.leave());
-  if (leave <= 0.0 || leave <= enter) return std::nullopt;
+  // Along the ray from foot 1, so that a start far away does not cost the digits of the lens.
+  const double from = -chord1.middle;
+  const double foot2 = dot(two.centre - one.centre, direction);
+  const double enter1 = -chord1.half;
+  const double enter2 = foot2 - chord2.half;
+  const double leave = std::min(chord1.half, foot2 + chord2.half);
+  if (leave <= from || leave <= std::max(enter1, enter2)) return std::nullopt;
 
   // Which of the discs the start is in already, by standing on its face if not by lying inside.
-  bool within1 = chord1.enter() <= 0.0;
-  bool within2 = chord2.enter() <= 0.0;
+  bool within1 = enter1 <= from;
+  bool within2 = enter2 <= from;
   if (within(one, start, 1.0 + onFace) && within(two, start, 1.0 + onFace)) {
     if (!within(one, start, 1.0 - onFace)) {
       if (chord1.middle <= 0.0) return std::nullopt;
@@ -97,7 +100,7 @@ std::optional<Crossing> firstCrossing(const Fakos& fakos, Point start, Point dir
     }
   }
   if (within1 && within2) return exitCrossing(fakos, start, direction);
-  const bool last1 = within2 || (!within1 && chord1.enter() > chord2.enter());
+  const bool last1 = within2 || (!within1 && enter1 > enter2);
   return last1 ? crossingAt(one, chord1, direction, true)
                : crossingAt(two, chord2, direction, true);
 }

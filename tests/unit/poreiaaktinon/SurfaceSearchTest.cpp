@@ -128,6 +128,12 @@ TEST(Diadromiaktinas, StartVeryFarAwayFindsTheFace) {
   expectFound(from(-1e18, 60, 1, 0), -20.0, 60.0);
 }
 
+TEST(Diadromiaktinas, StartVeryFarAwayFindsAThinLens) {
+  DiadromiApotelesma result;
+  diadromiaktinas(result, -99, 99, 100, 100, 1, 0, -1e18, 0, 7);
+  expectFound(result, -1.0, 0.0);
+}
+
 TEST(Diadromiaktinas, SetsTheWorkbenchPenOnlyWhereTheLineMeetsBothCircles) {
   FakeWorkbench bench;
   bench.surface.DrawWidth(9);
