@@ -50,8 +50,8 @@ void KelmoControls::arrange(int width, int height) {
   placeRow(deiktisdiathlasis, Text2, column3, lightTop, lightText);
   placeRow(desmi1, Text1, column3, lightTop + row, lightText);
   placeRow(arvimaton, Label3, column3, lightTop + 2 * row, lightText);
-  Check1.setGeometry(column1, top + 2 * row, column2 - column1 - gap, rowHeight);
-  Check2.setGeometry(column2, top + 2 * row, column2Right - column2, rowHeight);
+  Check1.setGeometry(column1, top + 2 * row, Check1.sizeHint().width(), rowHeight);
+  Check2.setGeometry(column2, top + 2 * row, Check2.sizeHint().width(), rowHeight);
 
   // Each vertical bar spans the half that its blade moves in, so that thumbs stand at blade ends.
   const int axis = height / 2;
