@@ -113,6 +113,7 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
   untouched_ = false;
   state().onlyWavesAsked = false;
+  const Diafragma beforePress = view_.diafragma();
   const Point p = inLensScale({X, Y});
   atPress_ = view_.diafragma();
   syromenigrammi1 = liesOn(p, controls_.Line1);
@@ -120,6 +121,8 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (syromenigrammi1 || syromenigrammi2) return;
   const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
   if (!lens) return;
+  // In a resized window the scene gets another scale here; the diaphragm goes with it.
+  placeEdges(beforePress);
   canvas().Cls();
   state().pigiX = p.x;
   state().pigiY = p.y;

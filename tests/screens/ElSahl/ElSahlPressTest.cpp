@@ -81,6 +81,27 @@ TEST_F(ElSahlMouse, TheSourceStandsUnderTheMouseAlsoInAResizedWindow) {
   EXPECT_EQ(place, pixel(state.pigiX.value(), state.pigiY.value()));
 }
 
+TEST_F(ElSahlMouse, TheDiaphragmStaysBesideTheLensInAResizedWindow) {
+  press(130, 60);
+  release(100, 40);
+  screen.resize(screen.width() + 150, screen.height() + 90);
+  QCoreApplication::processEvents();
+  press(-50, 0);
+  expectEdges(100, 40, -10);
+}
+
+TEST_F(ElSahlMouse, AnEdgeIsTakenWhereItIsSeenInAResizedWindow) {
+  press(100, 0);
+  screen.resize(screen.width() + 150, screen.height() + 90);
+  QCoreApplication::processEvents();
+  const QPoint place = pixel(130, 60);
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, place);
+  EXPECT_TRUE(screen.syromenigrammi1);
+  QTest::mouseRelease(screen.drawingArea(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(place, pixel(screen.controls().Line1.X2(), screen.controls().Line1.Y2()));
+  EXPECT_EQ(270, screen.canvas().ScaleWidth());
+}
+
 TEST_F(ElSahlMouse, PressesLeaveTheEdgesExactlyInTheirPlace) {
   for (int i = 0; i < 50; ++i) {
     press(80 + 0.37 * i, 1.7 * i);
