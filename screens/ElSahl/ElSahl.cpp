@@ -61,6 +61,9 @@ void ElSahl::Form_Load() { strokesAt(strokeX); }
 
 void ElSahl::prepare() {
   untouched_ = false;
+  // A screen that was left by the keyboard during a drag saw no release.
+  syromenigrammi1 = false;
+  syromenigrammi2 = false;
   AutoRedraw(true);
   Top(0);
   Left(0);

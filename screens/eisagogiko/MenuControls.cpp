@@ -56,7 +56,10 @@ void MenuControls::makeRoom() {
     widest = std::max(widest, Label1.fontMetrics().horizontalAdvance(QString::fromUtf8(line)));
   }
   Label1.resize(widest + spare, Label1.height());
+  // Beside the middle of the scroll bar, which is above the middle of the label.
   Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  Label1.setContentsMargins(
+      0, 0, 0, 2 * (Label1.geometry().center().y() - deiktissahl.geometry().center().y()));
 }
 
 void MenuControls::describeAll() {

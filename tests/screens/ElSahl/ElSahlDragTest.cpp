@@ -119,6 +119,14 @@ TEST_F(ElSahlDrag, AnotherButtonDoesNotEndADrag) {
   expectEdges(130, 10, -10);
 }
 
+TEST_F(ElSahlDrag, OpeningTheScreenAgainEndsADragLeftByTheKeyboard) {
+  press(130, 60);
+  screen.close();
+  screen.prepare();
+  move(0, 0);
+  expectEdges(130, 10, -10);
+}
+
 TEST_F(ElSahlDrag, ReleaseWithoutADragChangesNothing) {
   press(90, 0);
   const QImage before = picture();
