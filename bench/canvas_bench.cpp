@@ -1,13 +1,11 @@
 // Speed of the drawing surface, each figure beside the bare pixel loop that paints the same.
 //
 // The time shown is the canvas's own; "reference" is the bare loop's in ms, "ratio" ours over it.
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <cmath>
-#include <functional>
 #include <numbers>
 #include <vector>
 
+#include "bench/Compare.h"
 #include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Pixels.h"
 #include "canvas/qt/RasterCanvas.h"
@@ -18,26 +16,6 @@ namespace {
 constexpr QSize display(1920, 1080);
 constexpr int oversampling = 2;
 constexpr Rgb red = RGB(255, 0, 0);
-
-double seconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-void compare(benchmark::State& state, const std::function<void()>& ours,
-             const std::function<void()>& reference) {
-  double sum = 0.0;
-  double referenceSum = 0.0;
-  for ([[maybe_unused]] auto iteration : state) {
-    const double time = seconds(ours);
-    state.SetIterationTime(time);
-    sum += time;
-    referenceSum += seconds(reference);
-  }
-  state.counters["reference"] = 1e3 * referenceSum / static_cast<double>(state.iterations());
-  state.counters["ratio"] = sum / referenceSum;
-}
 
 // One user unit a display pixel, the origin in the middle; a bare image of the same size.
 struct Bench {

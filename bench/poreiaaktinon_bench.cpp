@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "bench/Compare.h"
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 
 namespace lensbench::poreiaaktinon {

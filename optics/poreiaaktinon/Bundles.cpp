@@ -4,8 +4,8 @@
 #include <cstddef>
 
 #include "canvas/Variant.h"
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 

@@ -1,7 +1,7 @@
 #include "optics/poreiaaktinon/RayPath.h"
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
-#include "optics/poreiaaktinon/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

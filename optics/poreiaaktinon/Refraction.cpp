@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Geometry.h"
-#include "optics/poreiaaktinon/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 

@@ -6,8 +6,8 @@
 
 #include "canvas/Canvas.h"
 #include "canvas/Variant.h"
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Workbench.h"
 
 namespace lensbench::poreiaaktinon {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Intersection.h"
-#include "optics/poreiaaktinon/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 
 namespace lensbench::poreiaaktinon {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "optics/poreiaaktinon/Vector.h"
+#include "optics/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <variant>
 
-#include "optics/protosfakos/Vector.h"
+#include "optics/Vector.h"
 
 namespace lensbench::protosfakos {
 

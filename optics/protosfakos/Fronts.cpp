@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "optics/Vector.h"
 #include "optics/protosfakos/SahlScreen.h"
 #include "optics/protosfakos/SahlState.h"
-#include "optics/protosfakos/Vector.h"
 
 namespace lensbench::protosfakos {
 namespace {

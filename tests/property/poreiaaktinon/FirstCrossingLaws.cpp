@@ -2,8 +2,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/SurfaceSearch.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
 

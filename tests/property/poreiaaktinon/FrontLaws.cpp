@@ -5,9 +5,9 @@
 #include <numbers>
 #include <vector>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"

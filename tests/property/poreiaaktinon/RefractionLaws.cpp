@@ -3,9 +3,9 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Refraction.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
 
 namespace lensbench::poreiaaktinon {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "canvas/Format.h"
+#include "tests/support/ErrorNumber.h"
 
 namespace lensbench {
 namespace {
@@ -27,12 +28,7 @@ TEST(Format, HundredthsAlwaysShowTwoDecimalsAndAPoint) {
 }
 
 int errorOf(const char* text, char sign = '.') {
-  try {
-    static_cast<void>(numberFromText(text, sign));
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
+  return errorNumber([=] { static_cast<void>(numberFromText(text, sign)); });
 }
 
 TEST(NumberFromText, ReadsAPointOrTheDecimalSign) {

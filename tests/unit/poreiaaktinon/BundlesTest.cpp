@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <gtest/gtest.h>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {

@@ -4,19 +4,10 @@
 
 #include "canvas/RuntimeError.h"
 #include "optics/poreiaaktinon/Geometry.h"
+#include "tests/support/ErrorNumber.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
-
-template <typename Action>
-int errorNumber(Action action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 TEST(Apostasi, IsTheEuclideanDistance) {
   EXPECT_DOUBLE_EQ(apostasi(1, 2, 4, 6), 5.0);

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/RayPath.h"
-#include "optics/poreiaaktinon/Vector.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
-#include "optics/poreiaaktinon/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

@@ -3,19 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "optics/protosfakos/Fronts.h"
+#include "tests/support/ErrorNumber.h"
 #include "tests/unit/protosfakos/FakeSahlScreen.h"
 
 namespace lensbench::protosfakos {
 namespace {
-
-int errorNumber(auto&& action) {
-  try {
-    action();
-  } catch (const RuntimeError& e) {
-    return e.number();
-  }
-  return 0;
-}
 
 // A ray along the axis from (100, 0): 10 in air, 8 in glass of index 2, then on at an angle.
 void recordRay(int k) {

@@ -4,18 +4,10 @@
 #include <limits>
 
 #include "optics/protosfakos/Hyperbola.h"
+#include "tests/support/ErrorNumber.h"
 
 namespace lensbench::protosfakos {
 namespace {
-
-int errorNumber(auto&& action) {
-  try {
-    action();
-  } catch (const RuntimeError& e) {
-    return e.number();
-  }
-  return 0;
-}
 
 TEST(DeriveLens, FollowsFromTheIndex) {
   const auto lens = deriveLens(1.5);
