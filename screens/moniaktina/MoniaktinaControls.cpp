@@ -72,6 +72,8 @@ void MoniaktinaControls::makeRoomForTexts() {
   widenFor(Text2, "Index of Refraction n = 2.50");
   const int radiusWidth = std::max(Text6.width(), Text5.width());
   for (TextBox* box : {&Text6, &Text5}) box->resize(radiusWidth, box->height());
+  // Neighbours overlap by a pixel, which belongs to the border of the text box.
+  for (TextBox* box : {&Text6, &Text5, &Text2, &Text7}) box->raise();
   Command1.move(Text6.x() + radiusWidth + gap, Command1.y());
 }
 
