@@ -1,4 +1,6 @@
 // The controls of the single-ray screen: design data, looks, words and order.
+#include <QApplication>
+#include <QRegularExpression>
 #include <QtTest/QTest>
 
 #include "tests/screens/moniaktina/MoniaktinaTest.h"

@@ -1,4 +1,5 @@
 // Opening the single-ray screen: size, scale, first picture, and what lasts.
+#include <QGuiApplication>
 #include <QScreen>
 
 #include "optics/poreiaaktinon/Tracing.h"

@@ -2,6 +2,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <QRegularExpression>
+
 #include "screens/moniaktina/SingleRayPicture.h"
 #include "tests/screens/moniaktina/MoniaktinaTest.h"
 

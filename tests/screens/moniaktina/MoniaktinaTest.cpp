@@ -1,5 +1,7 @@
 #include "tests/screens/moniaktina/MoniaktinaTest.h"
 
+#include <QCoreApplication>
+
 #include "optics/poreiaaktinon/Tracing.h"
 #include "screens/moniaktina/SingleRayPicture.h"
 
