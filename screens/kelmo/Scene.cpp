@@ -26,10 +26,10 @@ void drawFaces(const LensScene& scene) {
                                 scene.bladeEnd.y, 0);
 }
 
-void drawFocalCircles(Canvas& canvas, const LensScene& scene) {
+void drawFocalCircles(Canvas& canvas, const LensScene& scene, Rgb colour = focalColour) {
   if (scene.f.isEmpty()) return;
   for (const double side : {-1.0, 1.0}) {
-    canvas.Circle(scene.xordi + side * scene.f.value(), 0.0, markRadius, focalColour);
+    canvas.Circle(scene.xordi + side * scene.f.value(), 0.0, markRadius, colour);
   }
 }
 
@@ -82,6 +82,10 @@ void fillBody(Canvas& canvas, const LensScene& scene) {
 }  // namespace
 
 LensScene lensScene(const poreiaaktinon::Workbench& workbench) {
+  return lensScene(workbench, workbench.deiktisdiathlasis());
+}
+
+LensScene lensScene(const poreiaaktinon::Workbench& workbench, double n) {
   LensScene scene;
   scene.fakos = workbench.fakos();
   const Fakos& lens = scene.fakos;
@@ -93,7 +97,7 @@ LensScene lensScene(const poreiaaktinon::Workbench& workbench) {
   scene.exists = true;
   scene.xordi = rim.x1;
   scene.h = rim.y1;
-  scene.f = poreiaaktinon::estiakiapostasi(lens.R1, lens.R2, workbench.deiktisdiathlasis());
+  scene.f = poreiaaktinon::estiakiapostasi(lens.R1, lens.R2, n);
   return scene;
 }
 
@@ -127,6 +131,16 @@ void drawCardinalPoints(poreiaaktinon::Workbench& workbench) {
 void drawWaveScene(poreiaaktinon::Workbench& workbench) {
   workbench.canvas().Cls();
   redrawWaveScene(workbench.canvas(), lensScene(workbench));
+}
+
+void rubOutFocalCircles(Canvas& canvas, const LensScene& scene) {
+  const Rgb fill = canvas.FillColor();
+  canvas.DrawWidth(1);
+  canvas.FillStyle(FillStyle::Solid);
+  canvas.FillColor(white);
+  drawFocalCircles(canvas, scene, white);
+  canvas.FillColor(fill);
+  canvas.FillStyle(FillStyle::Transparent);
 }
 
 void redrawWaveScene(Canvas& canvas, const LensScene& scene) {

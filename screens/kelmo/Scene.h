@@ -17,6 +17,8 @@ struct LensScene {
   Point bladeEnd;       // lower end of the upper blade
 };
 LensScene lensScene(const poreiaaktinon::Workbench& workbench);
+// The same with another index of refraction.
+LensScene lensScene(const poreiaaktinon::Workbench& workbench, double n);
 
 // Faces, focal circles, rim lines, centres, full circles, the filled body and the cardinal points,
 // in this order. Clears nothing; leaves DrawWidth at 1, a solid pen and no fill.
@@ -28,6 +30,9 @@ void drawCardinalPoints(poreiaaktinon::Workbench& workbench);
 
 // Clears, and draws what stands under moving waves: focal circles, dotted circles and faces.
 void drawWaveScene(poreiaaktinon::Workbench& workbench);
+
+// Rubs out in white what moves in that scene when the index of refraction changes.
+void rubOutFocalCircles(Canvas& canvas, const LensScene& scene);
 
 // What rubbing out a wave may have eaten of that scene, drawn once more.
 void redrawWaveScene(Canvas& canvas, const LensScene& scene);

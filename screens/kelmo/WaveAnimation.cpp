@@ -73,7 +73,8 @@ void WaveAnimation::draw(poreiaaktinon::Workbench& workbench, int step) {
   if (set_.rays.empty()) return;
   Canvas& canvas = workbench.canvas();
   const double n = workbench.deiktisdiathlasis();
-  if (set_.rays.front().n != n) {
+  if (const double before = set_.rays.front().n; before != n) {
+    rubOutFocalCircles(canvas, lensScene(workbench, before));
     const auto setup = poreiaaktinon::setupOf(workbench);
     for (auto& ray : set_.rays) {
       ray = poreiaaktinon::tracePath(setup, ray.points[0], ray.directions[0], ray.phase);

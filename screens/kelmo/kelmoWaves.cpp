@@ -19,8 +19,6 @@ void kelmo::EPANALIPSI_Click() {
   // Asked first, so that a cancelled question changes nothing at all.
   const auto answer = dialogs().InputBox(
       QStringLiteral("Give angle with horizontal direction: -90<φ<90"), {}, QStringLiteral("0"));
-  // The toolkit has already turned the check mark of the entry that was clicked; there is none
-  // here.
   if (!answer) return;
   const Variant degrees = numberFromAnswer(*answer);
   protosfakos::state().desmiMode = true;
