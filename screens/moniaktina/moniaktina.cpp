@@ -29,8 +29,10 @@ QString centreText(int value) { return text("Κέντρο δεξιά=", formatWh
 moniaktina::moniaktina(Moves& moves) : Form(design), moves_(moves), controls_(*this) {
   setAccessibleName("Μία ακτίνα · One ray");
   drawingArea()->setToolTip(
-      "Πάτησε για να βάλεις την πηγή, σύρε και άφησε για να στείλεις την ακτίνα.\n"
-      "Press to place the source, drag and release to send the ray.");
+      "Πάτησε για να βάλεις την πηγή, σύρε και άφησε για να στείλεις την ακτίνα. "
+      "Τη σταματά το διάφραγμα των σφαιρικών φακών, αν είναι κλειστό.\n"
+      "Press to place the source, drag and release to send the ray. "
+      "The diaphragm of the spherical lenses stops it while it is closed.");
   connectHandlers();
   Form_Load();
 }
