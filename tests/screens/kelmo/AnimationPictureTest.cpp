@@ -44,6 +44,16 @@ TEST_F(AnimationPictureTest, AStrongLensAndAnObliqueDenseBundleToo) {
   expectSteps(c.Timer2, false);
 }
 
+TEST_F(AnimationPictureTest, RubbingOutLeavesNoTraceOnAnOversampledPicture) {
+  screen.canvas().setOversampling(2);
+  c.deiktisdiathlasis.Value(250);
+  sendBundle("20");
+  c.parallilakymata.trigger();
+  ticks(c.Timer2, 90);
+  const QImage shown = picture();
+  EXPECT_TRUE(samePicture(shown, waveSceneAt(90, false)));
+}
+
 TEST_F(AnimationPictureTest, AHalfClosedDiaphragmStopsPartOfTheFront) {
   c.VScroll1.Value(-20);
   c.VScroll2.Value(20);
