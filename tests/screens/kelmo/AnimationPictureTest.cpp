@@ -85,6 +85,7 @@ TEST_F(AnimationPictureTest, AnIndexMovedInMidRunBendsTheNextFrontAndLeavesNoTra
   c.deiktisdiathlasis.Value(220);
   EXPECT_TRUE(samePicture(picture(), before)) << "until the next tick";
   tick(c.Timer2);
+  ASSERT_FALSE(screen.animation().set().rays.empty());
   EXPECT_EQ(screen.animation().set().rays.front().n, 2.2);
   EXPECT_TRUE(showsStep(100, false));
   c.deiktisdiathlasis.Value(100);

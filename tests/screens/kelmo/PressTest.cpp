@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QTest>
+
 #include "optics/poreiaaktinon/Numbers.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "optics/protosfakos/SahlState.h"
@@ -125,8 +127,21 @@ TEST_F(PressTest, TheFanIsStoppedByTheClosedDiaphragm) {
   };
   const auto& rays = screen.animation().set().rays;
   EXPECT_GT(std::count_if(rays.begin(), rays.end(), isStop), 10);
+  ASSERT_FALSE(rays.empty());
   ASSERT_TRUE(isStop(rays[0]));
   EXPECT_EQ(pixelAt(rays[0].end().x, rays[0].end().y), RGB(255, 0, 255));
+}
+
+TEST_F(PressTest, TheSecondPressOfADoubleClickIsAPressLikeAnother) {
+  openDiaphragm();
+  press(-260.0, 70.0, Key::Shift);
+  const QImage fan = picture();
+  release(-260.0, 70.0);
+  freshScene();
+  const QPoint pixel(280, 260);  // of (-260, 70)
+  QTest::mouseDClick(screen.drawingArea(), Qt::LeftButton, Qt::ShiftModifier, pixel);
+  EXPECT_TRUE(samePicture(picture(), fan));
+  EXPECT_EQ(screen.xpigi.value(), -260.0);
 }
 
 TEST_F(PressTest, TheMarksChooseRaysAndWavesOfTheFan) {
