@@ -40,7 +40,7 @@ QString errorHeadline(const RuntimeError& error) {
 }
 
 QString errorSentence(const RuntimeError& error, const QString& action) {
-  const QString sentence = action.isEmpty()
+  QString sentence = action.isEmpty()
                                ? QStringLiteral(
                                      "Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
                                      "It happened at start-up, and the program ends.")

@@ -16,7 +16,7 @@ QString nameOf(const QObject& sender) {
     return widget->accessibleName().isEmpty() ? widget->windowTitle() : widget->accessibleName();
   }
   if (const auto* entry = qobject_cast<const QAction*>(&sender)) {
-    return entry->text().remove(QLatin1Char('&'));
+    return entry->statusTip().isEmpty() ? entry->text() : entry->statusTip();
   }
   return sender.objectName();
 }

@@ -19,7 +19,7 @@ namespace {
 constexpr double dotLength = 2.0;
 constexpr double dotPeriod = 4.0;
 
-int imagePixels(double pixels) { return std::max(1, static_cast<int>(pixels + 0.5)); }
+int imagePixels(double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); }
 
 Box boxOf(const Pixels& pixels, double margin) {
   return {-margin, -margin, pixels.width + margin, pixels.height + margin};

@@ -98,7 +98,7 @@ void strokeThin(const Pixels& pixels, const Segment& line, PixelValue colour) {
       Fixed y = toFixed(from.y);
       const Fixed step = toFixed((to.y - from.y) / columns);
       for (int n = 0, i = i1; n < columns; ++n, i += sideways, y += step) {
-        pixels.row(std::min(whole(y), j2))[i] = colour;
+        pixels.row(std::clamp(whole(y), j1, j2))[i] = colour;
       }
     }
   } else {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "optics/poreiaaktinon/SurfaceSearch.h"
+
 namespace lensbench {
 namespace {
 
@@ -62,7 +64,8 @@ Grab grabAt(Point p, const Diafragma& diafragma, const Fakos& fakos, const Edges
 }
 
 bool insideLens(Point p, const Fakos& fakos) {
-  return distance(p, fakos.xc1) <= fakos.R1 && distance(p, fakos.xc2) <= fakos.R2;
+  return poreiaaktinon::hasLens(fakos) && distance(p, fakos.xc1) <= fakos.R1 &&
+         distance(p, fakos.xc2) <= fakos.R2;
 }
 
 Diafragma releasedDiaphragm(Grab grab, Point p, const Diafragma& before, const Edges& edges) {

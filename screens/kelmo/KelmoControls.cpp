@@ -172,6 +172,11 @@ void KelmoControls::describeAll() {
            "Το ύψος της οπής.\nThe height of the opening.");
   describe(Text4, "Θέση διαφράγματος · Place of the diaphragm",
            "Η τετμημένη του διαφράγματος.\nThe abscissa of the diaphragm.");
+  describe(Label1, "Οδηγία για τις ακτίνες · Hint about rays",
+           "Πώς στέλνεις ακτίνες από ένα σημείο.\nHow to send rays from a point.");
+  describe(Label2, "Οδηγία για το ποντίκι · Hint about the mouse",
+           "Τι μετακινείς με το ποντίκι: διαφράγματα, κέντρα και άκρα των κύκλων.\n"
+           "What the mouse moves: blades, centres and edges of the circles.");
   describe(singleray, "Μία ακτίνα · One ray",
            "Ανοίγει την οθόνη με μία ακτίνα.\nOpens the screen of one ray.");
   describe(EPANALIPSI, "Παράλληλη δέσμη · Bundle of parallel rays",

@@ -1,11 +1,13 @@
 #include "screens/kelmo/Scene.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "optics/poreiaaktinon/Faces.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Intersection.h"
+#include "optics/poreiaaktinon/SurfaceSearch.h"
 
 namespace lensbench {
 namespace {
@@ -52,8 +54,8 @@ void drawFullCircles(Canvas& canvas, const Fakos& lens) {
 
 // Where the fill starts: on the axis inside the glass, 50 units left of the right vertex, or in the
 // middle of a lens too thin for that; drawn to the visible part of a lens that reaches beyond the
-// drawing area.
-double fillStart(const Canvas& canvas, const Fakos& lens) {
+// drawing area; nothing when no part of its axis is visible.
+std::optional<double> fillStart(const Canvas& canvas, const Fakos& lens) {
   const double leftVertex = std::max(lens.xc2 - lens.R2, lens.xc1 - lens.R1);
   const double rightVertex = std::min(lens.xc1 + lens.R1, lens.xc2 + lens.R2);
   const double start =
@@ -61,22 +63,27 @@ double fillStart(const Canvas& canvas, const Fakos& lens) {
   const double pixel = canvas.ScaleX(1.0, ScaleUnit::Pixel, ScaleUnit::User);
   const double left = canvas.ScaleLeft() + pixel;
   const double right = canvas.ScaleLeft() + canvas.ScaleWidth() - pixel;
-  return std::clamp(start, std::min(left, right), std::max(left, right));
+  const double visible = std::clamp(start, std::min(left, right), std::max(left, right));
+  if (visible <= leftVertex || visible >= rightVertex) return {};
+  return visible;
 }
 
 void fillBody(Canvas& canvas, const LensScene& scene) {
   canvas.FillColor(glassColour);
   if (!scene.exists) return;
-  const double x = fillStart(canvas, scene.fakos);
+  const auto x = fillStart(canvas, scene.fakos);
+  if (!x) return;
   canvas.FillStyle(FillStyle::Solid);
   canvas.FloodFill(
-      static_cast<int>(canvas.ScaleX(x - canvas.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel)),
+      static_cast<int>(canvas.ScaleX(*x - canvas.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel)),
       static_cast<int>(canvas.ScaleY(0.0 - canvas.ScaleTop(), ScaleUnit::User, ScaleUnit::Pixel)),
       black);
   canvas.FillStyle(FillStyle::Transparent);
   // The fill runs over every colour but black, so what it met is drawn again.
   drawCentres(canvas, scene.fakos);
   drawFocalCircles(canvas, scene);
+  drawRimLines(canvas, scene);
+  drawFullCircles(canvas, scene.fakos);
 }
 
 }  // namespace
@@ -91,9 +98,8 @@ LensScene lensScene(const poreiaaktinon::Workbench& workbench, double n) {
   const Fakos& lens = scene.fakos;
   const auto diafragma = workbench.diafragma();
   scene.bladeEnd = {diafragma.X, diafragma.yA};
-  if (lens.R1 == 0.0 || lens.R2 == 0.0) return scene;
+  if (!poreiaaktinon::hasLens(lens)) return scene;
   const auto rim = poreiaaktinon::tomikyklonaxona(lens.xc1, lens.xc2, lens.R1, lens.R2);
-  if (!rim.found) return scene;
   scene.exists = true;
   scene.xordi = rim.x1;
   scene.h = rim.y1;

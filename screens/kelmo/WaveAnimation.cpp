@@ -82,7 +82,7 @@ void WaveAnimation::draw(poreiaaktinon::Workbench& workbench, int step) {
   }
 
   for (const Front& front : drawn_) drawFront(canvas, front, white);
-  redrawWaveScene(canvas, lensScene(workbench));
+  if (!drawn_.empty()) redrawWaveScene(canvas, lensScene(workbench));
 
   drawn_.clear();
   drawn_.push_back(frontAt(set_, pathPerStep * step));

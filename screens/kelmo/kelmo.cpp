@@ -27,6 +27,8 @@ QString text(const char* caption, const std::string& number) {
 kelmo::kelmo(Moves& moves) : Form(design), moves_(moves), controls_(*this), workbench_(*this) {
   // The first drawing already asks for the workbench, while it is being created.
   poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return workbench_; });
+  setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
+  describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
   canvas().FontName("Symbol");
   canvas().FontSize(7.5);
   connectHandlers();
@@ -102,6 +104,7 @@ void kelmo::resized() {
   }
   controls_.arrange(drawingArea()->width(), drawingArea()->height());
   placeDiaphragm(workbench_.diafragma());
+  slidersFollowBlades();
 }
 
 void kelmo::arxinizo() {

@@ -74,6 +74,9 @@ class kelmo : public Form {
   Variant gonia;  // angle of the last bundle with the horizontal, radians
 
  private:
+  // The interval of waves that are running, ms: as fast as they can be seen.
+  static constexpr int runningInterval = 1;
+
   void connectHandlers();
   void resized();
   // Scale, source and blades as at the start, and the first drawing.
@@ -93,7 +96,9 @@ class kelmo : public Form {
 
   void startFan(double X, double Y);
   void prepareWavesInTime();
-  void showDraggedEdge(double centre, double X);
+  // The radius that the bar of a dragged edge gets when the mouse is at abscissa X.
+  int draggedRadius(const ScrollBar& bar, const Variant& centre, double X) const;
+  void showDraggedEdge(double centre, int radius);
   // Writes a lens scroll bar, whose handler redraws; redraws all the same when nothing changed.
   void setLensValue(ScrollBar& bar, int value);
 
@@ -107,6 +112,7 @@ class kelmo : public Form {
   WorkbenchView workbench_;
   WaveAnimation animation_;
   Grab grabbed_ = Grab::None;
+  double grabbedX_ = 0.0;                      // where the mouse took it, user units
   poreiaaktinon::Diafragma grabbedDiaphragm_;  // as it was when the mouse took it
   Variant ticks_;                              // tick counter, the time index of the waves
 };

@@ -68,14 +68,14 @@ void kelmo::VScroll1_Change() {
   controls_.Line1.BorderColor(RGB(250, 0, 0));
   controls_.Line1.BorderWidth(4);
   Diafragma d = workbench_.diafragma();
-  d.yA = diaphragmOfSliders().yA;
+  d.yA = std::max(diaphragmOfSliders().yA, d.yB);
   placeDiaphragm(d);
   clearAndDraw();
 }
 
 void kelmo::VScroll2_Change() {
   Diafragma d = workbench_.diafragma();
-  d.yB = diaphragmOfSliders().yB;
+  d.yB = std::min(diaphragmOfSliders().yB, d.yA);
   canvas().DrawWidth(10);
   canvas().PSet(d.X, d.yB, RGB(255, 5, 255));
   canvas().DrawWidth(1);

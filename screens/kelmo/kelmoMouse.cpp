@@ -1,5 +1,4 @@
 // The mouse on the workbench: what a press takes, how a drag is seen, what a release changes.
-#include <cmath>
 #include <utility>
 
 #include "optics/poreiaaktinon/CardinalPoints.h"
@@ -30,6 +29,7 @@ void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   grabbed_ =
       grabAt(p, workbench_.diafragma(), workbench_.fakos(), poreiaaktinon::edgesOf(canvas()));
   grabbedDiaphragm_ = workbench_.diafragma();
+  grabbedX_ = X;
   const bool shift = (Shift & shiftKey) != 0;
   if (shift && grabbed_ == Grab::None && !insideLens(p, workbench_.fakos())) {
     startFan(X, Y);
@@ -51,6 +51,10 @@ void kelmo::startFan(double X, double Y) {
   clearAndDraw();
   controls_.Timer2.Interval(11500);
   controls_.Timer2.Enabled(false);
+  // Waves of the old source that are still running end here: their rubbing out would eat the new
+  // picture.
+  if (controls_.Timer1.Interval() == runningInterval) controls_.Timer1.Interval(0);
+  ticks_ = 0;
   animation_.start({poreiaaktinon::bentaliaaktinon(xc1, xc2, R1, R2, xpigi, ypigi), true});
 }
 
@@ -72,9 +76,9 @@ void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
     case Grab::RightCentre:
       return centreMarkerAt(controls_.Shape2, p);
     case Grab::LeftEdge:
-      return showDraggedEdge(workbench_.fakos().xc1, X);
+      return showDraggedEdge(xc1.value(), draggedRadius(controls_.aktina1, xc1, X));
     case Grab::RightEdge:
-      return showDraggedEdge(workbench_.fakos().xc2, X);
+      return showDraggedEdge(xc2.value(), draggedRadius(controls_.aktina2, xc2, X));
     case Grab::UpperBlade:
     case Grab::LowerBlade:
     case Grab::Diaphragm:
@@ -83,8 +87,13 @@ void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   }
 }
 
-void kelmo::showDraggedEdge(double centre, double X) {
-  const double radius = std::fabs(centre - X);
+int kelmo::draggedRadius(const ScrollBar& bar, const Variant& centre, double X) const {
+  // An edge is taken from a few units away too; a click alone changes nothing.
+  if (X == grabbedX_) return bar.Value();
+  return releasedRadius(X, centre.value(), bar.Min(), bar.Max());
+}
+
+void kelmo::showDraggedEdge(double centre, int radius) {
   Shape& circle = controls_.draggedEdge;
   circle.Left(centre - radius);
   circle.Top(radius);
@@ -107,12 +116,10 @@ void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
       setLensValue(controls_.kentrokykloy, releasedCentre(X, 0, controls_.kentrokykloy.Max()));
       break;
     case Grab::LeftEdge:
-      setLensValue(controls_.aktina1, releasedRadius(X, xc1.value(), controls_.aktina1.Min(),
-                                                     controls_.aktina1.Max()));
+      setLensValue(controls_.aktina1, draggedRadius(controls_.aktina1, xc1, X));
       break;
     case Grab::RightEdge:
-      setLensValue(controls_.aktina2, releasedRadius(X, xc2.value(), controls_.aktina2.Min(),
-                                                     controls_.aktina2.Max()));
+      setLensValue(controls_.aktina2, draggedRadius(controls_.aktina2, xc2, X));
       break;
     case Grab::UpperBlade:
     case Grab::LowerBlade:

@@ -24,7 +24,6 @@ void kelmo::EPANALIPSI_Click() {
   protosfakos::state().desmiMode = true;
   ticks_ = 0;
   controls_.Timer1.Interval(1500);
-  clearAndDraw();
   gonia = degrees * (4 * Atn(1)) / 180;
   controls_.Timer1.Enabled(false);
   drawBundle(gonia);
@@ -86,7 +85,7 @@ void kelmo::startWaves(Timer& own, Timer& other, RaySet set) {
   animation_.start(std::move(set));
   ticks_ = 0;
   other.Enabled(false);
-  own.Interval(1);
+  own.Interval(runningInterval);
   own.Enabled(true);
 }
 

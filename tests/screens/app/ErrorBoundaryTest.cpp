@@ -59,7 +59,7 @@ TEST(ErrorBoundary, AnAnswerThatIsNoNumberEndsTheProgramAndNamesTheAction) {
         QTimer::singleShot(0, [&screens] { screens.kelmo().controls().EPANALIPSI.trigger(); });
         deliverEvents();
       },
-      ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*BUNDLE");
+      ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*Bundle of parallel rays");
 }
 
 TEST(ErrorBoundary, StandsAroundStartUpToo) {
