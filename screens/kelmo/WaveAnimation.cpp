@@ -74,7 +74,7 @@ void WaveAnimation::draw(poreiaaktinon::Workbench& workbench, int step) {
   Canvas& canvas = workbench.canvas();
   const double n = workbench.deiktisdiathlasis();
   if (const double before = set_.rays.front().n; before != n) {
-    rubOutFocalCircles(canvas, lensScene(workbench, before));
+    if (!drawn_.empty()) rubOutFocalCircles(canvas, lensScene(workbench, before));
     const auto setup = poreiaaktinon::setupOf(workbench);
     for (auto& ray : set_.rays) {
       ray = poreiaaktinon::tracePath(setup, ray.points[0], ray.directions[0], ray.phase);

@@ -126,7 +126,8 @@ class SceneTest : public ::testing::Test {
   Operations faces() const {
     const Numbers k = numbers();
     const Fakos& l = bench.lens;
-    return {arc(l.xc1, l.R1, -k.rightHalf, k.rightHalf),
+    return {arc(l.xc1, l.R1, 2.0 * std::numbers::pi - k.rightHalf,
+                2.0 * std::numbers::pi + k.rightHalf),
             arc(l.xc2, l.R2, std::numbers::pi - k.leftHalf, std::numbers::pi + k.leftHalf)};
   }
   Operations focalCircles(std::optional<Rgb> fill = {}) const {
@@ -183,6 +184,8 @@ class SceneTest : public ::testing::Test {
     all.push_back(fillAt(pixelX, 200.0));
     append(all, centres());
     append(all, focalCircles());
+    append(all, rimLines());
+    append(all, fullCircles(DrawStyle::Solid));
     return all;
   }
 
@@ -257,6 +260,8 @@ TEST_F(SceneTest, AtIndexOneThereAreNoFocalCirclesAndNoCardinalPoints) {
   append(expected, fullCircles(DrawStyle::Solid));
   expected.push_back(fillAt(400.0, 200.0));
   append(expected, centres());
+  append(expected, rimLines());
+  append(expected, fullCircles(DrawStyle::Solid));
   EXPECT_TRUE(sameInOrder(drawn(), expected));
 }
 
