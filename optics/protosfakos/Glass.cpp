@@ -25,7 +25,7 @@ std::optional<GlassChord> throughGlass(const Glass& glass, const Ray& ray) {
   const auto right = glassSide(glass.faces[1], ray);
   if (!left || !right) return std::nullopt;
   const GlassChord both{{std::max(left->from, right->from), std::min(left->to, right->to)},
-                        left->from >= right->from ? 0 : 1,
+                        left->from > right->from ? 0 : 1,
                         left->to <= right->to ? 0 : 1};
   if (!(both.chord.from <= both.chord.to)) return std::nullopt;
   return both;

@@ -28,7 +28,7 @@ Glass biconvex(const Variant& a, const Variant& b, const Variant& n);
 // The piece of the ray's line that is in the glass.
 struct GlassChord {
   Chord chord;
-  int enteredFace = 0;  // index of the face at chord.from
+  int enteredFace = 0;  // index of the face at chord.from; at the rim itself the right one
   int leftFace = 0;     // index of the face at chord.to
 };
 std::optional<GlassChord> throughGlass(const Glass& glass, const Ray& ray);

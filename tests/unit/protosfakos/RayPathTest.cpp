@@ -61,6 +61,16 @@ TEST(Trace, PlaneFirstThenHyperbola) {
   EXPECT_LT(path.exitNormal->x, 0.0);
 }
 
+TEST(GlassChord, WhereBothFacesAreEquallyNearTheRightOneIsEntered) {
+  // Straight down through the rim of the biconvex lens, the one line that meets both at once.
+  const auto way = throughGlass(convex(1.5), {{48.0, 110.0}, {0.0, -1.0}});
+  ASSERT_TRUE(way);
+  EXPECT_NEAR(110.0 - way->chord.from, rimHalfHeight(convex(1.5).b), 1e-12);
+  EXPECT_EQ(way->enteredFace, 1);
+  EXPECT_EQ(throughGlass(convex(1.5), {{47.0, 110.0}, {0.0, -1.0}})->enteredFace, 0);
+  EXPECT_EQ(throughGlass(convex(1.5), {{49.0, 110.0}, {0.0, -1.0}})->enteredFace, 1);
+}
+
 TEST(Trace, HyperbolaFirstFromTheLeft) {
   const Glass glass = plano(1.5);
   const RayPath path = trace(glass, right(-60, 10, 0.09), open);
