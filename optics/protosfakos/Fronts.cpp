@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "optics/Vector.h"
+#include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/SahlScreen.h"
 #include "optics/protosfakos/SahlState.h"
 
@@ -35,6 +36,8 @@ RecordedRay recordedRay(const SahlState& s, Point start, int k) {
           norm > 0.0 ? (-1.0 / norm) * negated : Point{}};
 }
 
+double distance(Point p, Point q) { return apostasiSahl(p.x, p.y, q.x, q.y).value(); }
+
 // The point at an optical path from the start; before and inside are the lengths of the first two
 // pieces, step is the length in the glass of one unit of optical path.
 Point pointAt(const RecordedRay& ray, double before, double inside, double step, double path) {
@@ -50,8 +53,8 @@ void layFronts(Point start, const Variant& k) {
   const double step = (1 / s.deiktisSahl).value();
   const int index = rayIndex(k);
   const RecordedRay ray = recordedRay(s, start, index);
-  const double before = length(ray.entry - ray.start);
-  const double inside = length(ray.exit - ray.entry);
+  const double before = distance(ray.start, ray.entry);
+  const double inside = distance(ray.entry, ray.exit);
   if (inside / step < 0.0 && !s.negativeShown) {
     s.negativeShown = true;
     sahlScreen().message("  ARNHTIKO");
