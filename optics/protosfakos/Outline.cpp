@@ -1,7 +1,6 @@
 #include "optics/protosfakos/Outline.h"
 
 #include <cmath>
-#include <utility>
 #include <variant>
 
 #include "optics/protosfakos/Hyperbola.h"
@@ -43,10 +42,11 @@ void drawOutline(Canvas& canvas, const Glass& glass) {
 }
 
 void drawIdealBundle(Canvas& canvas, const Glass& glass) {
-  const auto [a, b] = std::pair(glass.a, glass.b);
+  const double a = glass.a;
+  const double b = glass.b;
   if (b == 0.0) return;
   const double c = std::hypot(a, b);
-  const double spacing = std::fabs(2.0 * rimHalfHeight(b)) / 10.0;
+  const double spacing = rimHalfHeight(b) / 5.0;
   for (int k = -4; k <= 4; ++k) {
     const double y = k * spacing;
     const double x = a * std::hypot(1.0, y / b);

@@ -68,8 +68,7 @@ std::optional<Point> refracted(Point direction, Point normal, double ratio) {
   const double sine = ratio * cross(against, direction);
   if (!(std::fabs(sine) < 1.0)) return std::nullopt;
   const double cosine = std::sqrt((1.0 - sine) * (1.0 + sine));
-  const Point along{-against.y, against.x};
-  return sine * along - cosine * against;
+  return sine * turned(against) - cosine * against;
 }
 
 RayPath trace(const Glass& glass, const Ray& incident, const Diafragma& diafragma) {
