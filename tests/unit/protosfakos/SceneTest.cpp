@@ -187,6 +187,36 @@ TEST(Scene, OneRayInAllItsPieces) {
   EXPECT_LT(at[6].x2, at[6].x1);
 }
 
+TEST(Scene, ATrappedRayEndsAtTheEdgeOfTheGlass) {
+  // The steepest ray meets the flat curve of n = 1.1 from above and comes back to that same curve.
+  SahlBench bench(1.1);
+  bench.screen.rays = true;
+  const double b = bench.lens.b;
+  const double y = b * std::sqrt(20.0 * 20.0 / 144.0 - 1.0);
+  bench.fan(false, 40, y + 0.9 * 20);
+  const auto& ops = bench.operations();
+  constexpr std::size_t first = faceLines + 1 + 18 + 2;
+  expectLine(ops[first], 40, y + 18, 20, y, blue, 1);
+  for (std::size_t side = first + 1; side <= first + 2; ++side) {
+    EXPECT_EQ(ops[side].colour, red);
+    EXPECT_NEAR(ops[side].x1, 20, 1e-9);
+    EXPECT_NEAR(lengthOf(ops[side]), 25.0, 1e-12);
+  }
+  const Operation& inside = ops[first + 3];
+  EXPECT_EQ(inside.colour, cyan);
+  EXPECT_NEAR(inside.x1, 20, 1e-9);
+  EXPECT_NEAR((inside.x2 / 12) * (inside.x2 / 12) - (inside.y2 / b) * (inside.y2 / b), 1, 1e-12);
+  // Nothing more of it: the next line starts at the source.
+  const Operation& next = ops[first + 4];
+  EXPECT_EQ(next.colour, blue);
+  EXPECT_EQ(next.x1, 40);
+  // All others of this fan are trapped too or miss.
+  EXPECT_GT(count(ops, Kind::Line, cyan, 1), 1);
+  EXPECT_EQ(count(ops, Kind::Line, green, 1), 0);
+  EXPECT_EQ(bench.recorded(), 0);
+  EXPECT_TRUE(state().entryX[0].isEmpty());
+}
+
 TEST(Scene, MissingRaysAreHundredLongAlongTheirWay) {
   SahlBench bench(1.05);
   bench.screen.rays = true;
