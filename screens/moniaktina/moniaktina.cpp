@@ -53,6 +53,8 @@ void moniaktina::connectHandlers() {
 
 void moniaktina::fitDisplay() {
   justOpened_ = true;
+  // A screen that was left by the keyboard during a drag saw no release.
+  controls_.aim.Visible(false);
   fillDisplay();
   scaleToClientArea();
 }

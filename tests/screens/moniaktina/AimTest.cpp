@@ -42,6 +42,17 @@ TEST_F(MoniaktinaAimTest, AimIsShownWhileTheButtonIsHeldAndLeavesNoTrace) {
   EXPECT_EQ(picture(), rayPicture(design, 30.0, -12.0));
 }
 
+TEST_F(MoniaktinaAimTest, OpeningTheScreenAgainEndsADragLeftByTheKeyboard) {
+  screen.Form_MouseDown(1, 0, -150.0, 42.0);
+  screen.Form_MouseMove(1, 0, 20.0, -10.0);
+  screen.close();
+  open();
+  EXPECT_FALSE(c.aim.Visible());
+  screen.Form_MouseMove(0, 0, 60.0, 30.0);
+  EXPECT_FALSE(c.aim.Visible());
+  EXPECT_EQ(picture(), lensPicture(design));
+}
+
 TEST_F(MoniaktinaAimTest, MovingWithoutAPressShowsNoAim) {
   screen.Form_MouseMove(0, 0, 20.0, -10.0);
   EXPECT_FALSE(c.aim.Visible());
