@@ -13,12 +13,14 @@ class ElSahlWaves : public ElSahlFixture, public ::testing::WithParamInterface<b
 };
 
 TEST_P(ElSahlWaves, DrawsTheSceneOfTheSourceAndItsFrontsInForeColor) {
+  constexpr Rgb brown = RGB(150, 90, 20);
+  screen.canvas().ForeColor(brown);
   screen.canvas().Cls();
   screen.controls().kymatikosahl.trigger();
   ASSERT_GT(rays(), 1);
   EXPECT_TRUE(shows([&] {
     fan(108, 25);
-    protosfakos::drawFronts(screen.canvas(), screen.canvas().ForeColor());
+    protosfakos::drawFronts(screen.canvas(), brown);
   }));
 }
 
