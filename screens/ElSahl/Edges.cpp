@@ -8,12 +8,6 @@ namespace {
 
 constexpr double margin = 3.0;  // user units
 
-// Between two sides given in either order, a margin inside each.
-double inside(double value, double side, double length) {
-  return std::clamp(value, std::min(side, side + length) + margin,
-                    std::max(side, side + length) - margin);
-}
-
 }  // namespace
 
 bool liesOn(Point p, const LineControl& edge) {
@@ -22,11 +16,12 @@ bool liesOn(Point p, const LineControl& edge) {
 }
 
 protosfakos::Diafragma released(Edge taken, Point p, const protosfakos::Diafragma& before,
-                                const Canvas& canvas) {
+                                const Reach& reach) {
+  // In a window too low for both limits the bottom counts.
   const auto reachable = [&](double y) {
-    return inside(y, canvas.ScaleTop(), canvas.ScaleHeight());
+    return std::max(reach.bottom + margin, std::min(y, reach.top - margin));
   };
-  const double x = inside(p.x, canvas.ScaleLeft(), canvas.ScaleWidth());
+  const double x = std::clamp(p.x, reach.left, reach.right);
   const double y = reachable(p.y);
   const double beyond = std::fabs(y / 10.0);
   if (taken == Edge::Upper) return {x, y, y < before.lower ? reachable(y - beyond) : before.lower};

@@ -11,11 +11,19 @@ enum class Edge { Upper, Lower };
 // Within three user units of an edge's abscissa, and between its ends.
 bool liesOn(Point p, const LineControl& edge);
 
+// What the mouse reaches of the drawing area, user units: below the option buttons.
+struct Reach {
+  double left = 0.0;
+  double right = 0.0;
+  double bottom = 0.0;
+  double top = 0.0;
+};
+
 // The diaphragm after one of its edges, taken while the diaphragm stood as before, is let go at p:
 // both edges stand at the abscissa of p, the inner end of the taken one at its ordinate. Where that
 // would cross the other inner end, the other is pushed beyond it by a tenth of the ordinate. Both
-// ends stay inside the drawing area, far enough for the mouse to take them again.
+// ends stay within reach, far enough inside its top and bottom for the mouse to take them again.
 protosfakos::Diafragma released(Edge taken, Point p, const protosfakos::Diafragma& before,
-                                const Canvas& canvas);
+                                const Reach& reach);
 
 }  // namespace lensbench

@@ -35,9 +35,15 @@ const FormDesign design{"ElSahl", "Φακός Ιμπν Σαχλ 2 υπεροβλ
 }  // namespace
 
 ElSahl::ElSahl(Moves& moves) : Form(design), moves_(moves), controls_(*this), view_(*this) {
+  setAccessibleName("Υπερβολικός φακός · Hyperbolic lens");
   drawingArea()->setAccessibleName(
       QStringLiteral("Υπερβολικός φακός, πάτησε για να βάλεις την πηγή · "
                      "Hyperbolic lens, press to place the source"));
+  drawingArea()->setToolTip(
+      "Πάτησε για να βάλεις την πηγή. Σύρε μια μπλε ακμή για να μετακινήσεις το διάφραγμα· "
+      "στην αρχή στέκεται πίσω από την πηγή.\n"
+      "Press to place the source. Drag a blue edge to move the diaphragm; "
+      "at first it stands behind the source.");
   connectHandlers();
   Form_Load();
 }
@@ -51,6 +57,10 @@ void ElSahl::connectHandlers() {
   on<Form>(*this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
   on(c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
   on(c.RAYSANDWAVES, &OptionButton::Click, *this, &ElSahl::RAYSANDWAVES_Click);
+  // The picture stands until the next drawing, which reads the options anew.
+  for (OptionButton* option : {&c.kymataYESNO, &c.RAYSANDWAVES, &c.onlyrays}) {
+    on(*option, &OptionButton::Click, *this, &ElSahl::touched);
+  }
   on(c.kymatikosahl, &MenuEntry::Click, *this, &ElSahl::kymatikosahl_Click);
   on(c.parallilidesmifotos, &MenuEntry::Click, *this, &ElSahl::parallilidesmifotos_Click);
   on(c.BACKKELMO, &MenuEntry::Click, *this, &ElSahl::BACKKELMO_Click);
@@ -60,7 +70,7 @@ void ElSahl::connectHandlers() {
 void ElSahl::Form_Load() { strokesAt(strokeX); }
 
 void ElSahl::prepare() {
-  untouched_ = false;
+  touched();
   // A screen that was left by the keyboard during a drag saw no release.
   syromenigrammi1 = false;
   syromenigrammi2 = false;
@@ -73,13 +83,14 @@ void ElSahl::prepare() {
   // Only a window that is shown has the client area that the scale is for.
   setScale();
   strokesAt(strokeX);
-  untouched_ = true;
+  openingIndex_ = state().deiktisSahl;
 }
 
 void ElSahl::resized() {
   // The window manager settles the size of a new window only after it is shown; until something is
-  // done by hand the scene fits itself to every size. Later the picture stays.
-  if (!untouched_ || state().pigiX.isEmpty()) return;
+  // done by hand the scene fits itself to every size. Later the picture stays, and so does one of
+  // an index that the lens menu has changed since.
+  if (!openingIndex_ || *openingIndex_ != state().deiktisSahl || state().pigiX.isEmpty()) return;
   setScale();
   strokesAt(strokeX);
   redrawFan();
@@ -114,7 +125,7 @@ Point ElSahl::inLensScale(Point p) {
 
 void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
-  untouched_ = false;
+  touched();
   state().onlyWavesAsked = false;
   const Diafragma beforePress = view_.diafragma();
   const Point p = inLensScale({X, Y});
@@ -127,6 +138,7 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   // In a resized window the scene gets another scale here; the diaphragm goes with it.
   placeEdges(beforePress);
   canvas().Cls();
+  hintUsed();
   state().pigiX = p.x;
   state().pigiY = p.y;
   drawFan(*lens);
@@ -146,12 +158,23 @@ void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   dragTo(p);
   syromenigrammi1 = false;
   syromenigrammi2 = false;
+  hintUsed();
   redrawFan();
 }
 
 void ElSahl::dragTo(Point p) {
-  placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, canvas()));
+  placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, reach()));
 }
+
+Reach ElSahl::reach() const {
+  const RasterCanvas& surface = canvas();
+  const double belowOptions = controls_.onlyrays.geometry().bottom() + 1.0;
+  return {surface.ScaleLeft(), surface.ScaleLeft() + surface.ScaleWidth(),
+          surface.ScaleTop() + surface.ScaleHeight(),
+          surface.mapping().toUser({0.0, belowOptions}).y};
+}
+
+void ElSahl::hintUsed() { drawingArea()->setToolTip({}); }
 
 void ElSahl::kymataYESNO_Click() {
   state().onlyWavesAsked = true;
@@ -165,7 +188,7 @@ void ElSahl::RAYSANDWAVES_Click() {
 }
 
 void ElSahl::kymatikosahl_Click() {
-  untouched_ = false;
+  touched();
   const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
   if (!lens) return;
   drawFan(*lens);
@@ -184,11 +207,11 @@ void ElSahl::parallilidesmifotos_Click() {
   const auto answer = dialogs().InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
                                          QStringLiteral("Angle in °"), QStringLiteral("0"));
   if (!answer) return;
-  untouched_ = false;
+  touched();
   const auto lens = lensOr(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"));
   if (!lens) return;
   const Variant pi = 4 * Atn(1);
-  const Variant m = Tan(pi * numberFromAnswer(*answer) / 180);
+  const Variant m = Tan(pi * (numberFromAnswer(*answer) / 180));
   canvas().Cls();
   if (state().amfikyrtosSahl) {
     protosfakos::desmiamfikyrtou(lens->a, lens->b, m);
@@ -198,7 +221,7 @@ void ElSahl::parallilidesmifotos_Click() {
 }
 
 void ElSahl::BACKKELMO_Click() {
-  untouched_ = false;
+  touched();
   canvas().Cls();
   moves_.leaveIbnSahl();
 }

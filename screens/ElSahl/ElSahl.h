@@ -43,13 +43,17 @@ class ElSahl : public Form {
 
  private:
   void connectHandlers();
+  void touched() { openingIndex_.reset(); }
   void resized();
   void setScale();
   // Sets the scale of the lenses where a resized window has another, and says where p, a point of
   // that scale, now is. Nothing is rounded where the scale holds already.
   Point inLensScale(Point p);
   void placeEdges(const protosfakos::Diafragma& diafragma);
+  Reach reach() const;
   void dragTo(Point p);
+  // Takes the hint away, which would only cover the picture.
+  void hintUsed();
   // The fan from the stored source through the lens that is shown, over what is there.
   void drawFan(const protosfakos::HyperbolaAxes& lens);
   // The same on a cleared picture; for an index below 1 the picture stays as it is.
@@ -61,7 +65,8 @@ class ElSahl : public Form {
   SahlControls controls_;
   SahlView view_;
   protosfakos::Diafragma atPress_;  // as the diaphragm was when the mouse took an edge
-  bool untouched_ = false;          // prepared, and nothing done by hand since
+  // The index of refraction the screen was opened with, until something is done by hand.
+  std::optional<Variant> openingIndex_;
 };
 
 }  // namespace lensbench

@@ -82,13 +82,45 @@ TEST_F(ElSahlDrag, EndsThatMeetCloseTheDiaphragm) {
   expectEdges(100, -10, -60);
 }
 
+TEST_F(ElSahlDrag, TheAbscissaGoesToTheVerySides) {
+  drag({130, 60}, {149, 30});
+  expectEdges(149, 30, -10);
+  drag({149, 60}, {-119, 30});
+  expectEdges(-119, 30, -10);
+  drag({-119, 60}, {-500, 30});
+  expectEdges(-120, 30, -10);
+}
+
+TEST_F(ElSahlDrag, AnEdgeDraggedUnderTheOptionsStaysBelowThem) {
+  drag({130, 60}, {-60, 119});
+  const Point end{screen.controls().Line1.X2(), screen.controls().Line1.Y2()};
+  EXPECT_EQ(-60, end.x);
+  EXPECT_EQ(-10, screen.controls().Line2.Y2());
+  EXPECT_EQ(nullptr, screen.drawingArea()->childAt(pixel(end.x, end.y)));
+  EXPECT_GT(end.y, 100);
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(end.x, end.y + 1));
+  EXPECT_TRUE(screen.syromenigrammi1);
+  QTest::mouseRelease(screen.drawingArea(), Qt::LeftButton, {}, pixel(-60, 30));
+  EXPECT_NEAR(30, screen.controls().Line1.Y2(), 0.5);
+}
+
+TEST_F(ElSahlDrag, AWindowOfOptionsAloneRaisesNothing) {
+  press(130, 60);
+  screen.resize(screen.width(), screen.menuWidget()->height() + 10);
+  QCoreApplication::processEvents();
+  EXPECT_NO_THROW(release(100, 0));
+  EXPECT_LE(screen.controls().Line2.Y2(), screen.controls().Line1.Y2());
+}
+
 TEST_F(ElSahlDrag, AnEdgeDraggedOutOfTheWindowCanBeTakenAgain) {
   drag({130, 60}, {400, 500});
   const Point upper{screen.controls().Line1.X2(), screen.controls().Line1.Y2()};
-  EXPECT_TRUE(screen.drawingArea()->rect().contains(pixel(upper.x, upper.y)));
-  press(upper.x, upper.y);
+  EXPECT_EQ(150, upper.x);
+  const QPoint beside = pixel(upper.x, upper.y + 1) - QPoint(1, 0);
+  EXPECT_TRUE(screen.drawingArea()->rect().contains(beside));
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, beside);
   EXPECT_TRUE(screen.syromenigrammi1);
-  release(upper.x, -300);
+  release(100, -300);
   EXPECT_TRUE(screen.drawingArea()->rect().contains(
       pixel(screen.controls().Line2.X2(), screen.controls().Line2.Y2())));
   EXPECT_LE(screen.controls().Line2.Y2(), screen.controls().Line1.Y2());

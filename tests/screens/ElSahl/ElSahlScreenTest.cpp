@@ -84,6 +84,51 @@ TEST_F(ElSahlScreen, ANewSizeFitsTheSceneOnlyUntilSomethingIsDoneByHand) {
   EXPECT_EQ(before, screen.canvas().image().copy(before.rect()));
 }
 
+TEST_F(ElSahlScreen, AnOptionChosenByHandKeepsThePictureAtANewSize) {
+  SahlControls& c = screen.controls();
+  for (OptionButton* option : {&c.onlyrays, &c.kymataYESNO, &c.RAYSANDWAVES}) {
+    screen.prepare();
+    screen.canvas().Cls();
+    fan(108, 25);
+    const QImage before = picture();
+    QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(10, option->height() / 2));
+    screen.resize(screen.width() + 60, screen.height() + 40);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(before, screen.canvas().image().copy(before.rect()))
+        << qPrintable(option->objectName());
+  }
+}
+
+TEST_F(ElSahlScreen, AnIndexChangedInTheMenuKeepsThePictureAtANewSize) {
+  screen.canvas().Cls();
+  fan(108, 25);
+  const QImage before = picture();
+  state.deiktisSahl = 2.0;
+  screen.resize(screen.width() + 60, screen.height() + 40);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(before, screen.canvas().image().copy(before.rect()));
+}
+
+TEST_F(ElSahlScreen, HowToUseTheMouseIsSaidUntilItHasBeenDone) {
+  const auto hint = [&] { return screen.drawingArea()->toolTip(); };
+  EXPECT_TRUE(hint().contains("Press to place the source"));
+  EXPECT_TRUE(hint().contains("Πάτησε για να βάλεις την πηγή"));
+  state.deiktisSahl = 0.5;
+  press(100, 0);
+  EXPECT_FALSE(hint().isEmpty());
+  state.deiktisSahl = 1.5;
+  press(100, 0);
+  EXPECT_TRUE(hint().isEmpty());
+
+  ElSahl another(moves);
+  another.prepare();
+  EXPECT_FALSE(another.drawingArea()->toolTip().isEmpty());
+  another.Form_MouseDown(1, 0, 130, 60);
+  EXPECT_FALSE(another.drawingArea()->toolTip().isEmpty());
+  another.Form_MouseUp(1, 0, 100, 60);
+  EXPECT_TRUE(another.drawingArea()->toolTip().isEmpty());
+}
+
 TEST_F(ElSahlScreen, MenuEntriesStandInTheBarInTheirOrder) {
   QStringList captions;
   for (const QAction* entry : screen.menuBar()->actions()) captions << entry->text();
@@ -110,6 +155,7 @@ TEST_F(ElSahlScreen, OptionsStandInOneRowAndShowTheirWholeText) {
 }
 
 TEST_F(ElSahlScreen, EveryControlSaysInTwoLanguagesWhatItIsAndDoes) {
+  EXPECT_TRUE(screen.accessibleName().contains(" · "));
   for (const auto* control : screen.drawingArea()->findChildren<QAbstractButton*>()) {
     EXPECT_TRUE(control->accessibleName().contains(" · ")) << qPrintable(control->objectName());
     EXPECT_TRUE(control->toolTip().contains('\n')) << qPrintable(control->objectName());
