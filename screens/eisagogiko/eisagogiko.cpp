@@ -30,6 +30,7 @@ QString labelled(const char* caption, const Variant& index) {
 }  // namespace
 
 eisagogiko::eisagogiko(Moves& moves) : Form(design), moves_(moves), controls_(*this) {
+  setAccessibleName("Κατάλογος φακών · Lens menu");
   connectHandlers();
   Form_Load();
 }

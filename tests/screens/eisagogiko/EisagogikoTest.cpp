@@ -194,6 +194,7 @@ TEST_F(Eisagogiko, NothingIsClippedOrCovered) {
   MenuControls& c = controls();
   c.deiktissahl.Value(250);
   const QList<QWidget*> all{&c.Command1, &c.Command2, &c.Command3, &c.deiktissahl, &c.Label1};
+  EXPECT_TRUE(menu.accessibleName().contains(" · "));
   for (const QWidget* one : all) {
     EXPECT_TRUE(menu.drawingArea()->rect().contains(one->geometry()));
     EXPECT_GE(one->font().pointSizeF(), 9.0);
