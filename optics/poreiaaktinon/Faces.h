@@ -8,10 +8,10 @@
 
 namespace lensbench::poreiaaktinon {
 
-// Start and end angles of both faces about the centres of their circles, radians, drawn
-// counter-clockwise. A face may be more than half a circle.
+// Start and end angles of both faces about the centres of their circles, 0 to 2 pi, drawn
+// counter-clockwise. A face may be more than half a circle, up to a whole one.
 struct FaceArcs {
-  double rightStart = 0.0;  // circle 1, negative: below the axis
+  double rightStart = 0.0;  // circle 1; later than its end, so that the arc runs through 0
   double rightEnd = 0.0;
   double leftStart = 0.0;  // circle 2
   double leftEnd = 0.0;
@@ -26,7 +26,7 @@ void sxediasitoxou1(const Variant& xc1, const Variant& R1, const Variant& xc2, c
                     const Variant& X2, const Variant& Y2);
 
 // sxediasitoxou2: the left face likewise, an arc of circle 2; xroma is its colour as a number with
-// red in the lowest byte, 0 for black.
+// red in the lowest byte, 0 for black; below 0 or beyond 32 bits it is Overflow (6).
 void sxediasitoxou2(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
                     const Variant& X2, const Variant& Y2, const Variant& xroma);
 

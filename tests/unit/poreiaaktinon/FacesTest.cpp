@@ -4,6 +4,7 @@
 
 #include "optics/poreiaaktinon/Faces.h"
 #include "optics/poreiaaktinon/Numbers.h"
+#include "tests/support/ErrorNumber.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -16,7 +17,7 @@ TEST(FaceArcs, EndAtTheRim) {
   EXPECT_NEAR(-50.0 + 100.0 * std::cos(arcs->rightEnd), 20.0 + 90.0 * std::cos(arcs->leftStart),
               1e-11);
   EXPECT_NEAR(100.0 * std::sin(arcs->rightEnd), 90.0 * std::sin(arcs->leftStart), 1e-11);
-  EXPECT_EQ(arcs->rightStart, -arcs->rightEnd);
+  EXPECT_NEAR(arcs->rightStart, 2.0 * pi - arcs->rightEnd, 1e-12);
   EXPECT_NEAR(arcs->leftEnd, 2.0 * pi - arcs->leftStart, 1e-12);
 }
 
@@ -35,6 +36,26 @@ TEST(FaceArcs, ABallIsOneWholeCircle) {
   EXPECT_EQ(arcs->rightEnd, 0.0);
   EXPECT_NEAR(arcs->leftStart, 0.0, 1e-15);
   EXPECT_NEAR(arcs->leftEnd, 2.0 * pi, 1e-15);
+}
+
+TEST(FaceArcs, ABallOfCircleOneIsOneWholeCircleToo) {
+  const auto arcs = faceArcs({0.0, 50.0, 450.0, 500.0});
+  ASSERT_TRUE(arcs);
+  EXPECT_EQ(arcs->rightStart, 0.0);
+  EXPECT_EQ(arcs->rightEnd, 2.0 * pi);
+  EXPECT_EQ(arcs->leftEnd - arcs->leftStart, 0.0);
+}
+
+TEST(FaceArcs, AnglesAreOfOneTurn) {
+  for (const Fakos& lens : {Fakos{-50.0, 100.0, 20.0, 90.0}, Fakos{-430.0, 500.0, 0.0, 90.0},
+                            Fakos{-450.0, 500.0, 0.0, 50.0}, Fakos{0.0, 50.0, 450.0, 500.0}}) {
+    const auto arcs = faceArcs(lens);
+    ASSERT_TRUE(arcs);
+    for (const double angle : {arcs->rightStart, arcs->rightEnd, arcs->leftStart, arcs->leftEnd}) {
+      EXPECT_GE(angle, 0.0);
+      EXPECT_LE(angle, 2.0 * pi);
+    }
+  }
 }
 
 TEST(FaceArcs, NothingWithoutALens) {
@@ -59,12 +80,23 @@ TEST(Sxediasitoxou, DrawsTheRightFaceThenTheLeftInBlack) {
   EXPECT_EQ(drawn[0].x1, -50.0);
   EXPECT_EQ(drawn[0].radius, 100.0);
   EXPECT_EQ(drawn[0].x2, arcs->rightStart);
-  EXPECT_EQ(drawn[0].y2, arcs->rightEnd);
+  EXPECT_NEAR(drawn[0].y2 - drawn[0].x2, 2.0 * arcs->rightEnd, 1e-14);
   EXPECT_EQ(drawn[1].x1, 20.0);
   EXPECT_EQ(drawn[1].radius, 90.0);
   EXPECT_EQ(drawn[1].x2, arcs->leftStart);
   EXPECT_NEAR(drawn[1].y2, arcs->leftEnd, 1e-15);
   EXPECT_EQ(bench.surface.DrawWidth(), 1);
+}
+
+TEST(Sxediasitoxou, DrawsAWholeCircleWhole) {
+  FakeWorkbench bench;
+  sxediasitoxou1(0, 50, 450, 500, 0, 0);
+  sxediasitoxou2(-450, 500, 0, 50, 0, 0, 0);
+  ASSERT_EQ(bench.surface.operations().size(), 2u);
+  for (const Operation& op : bench.surface.operations()) {
+    EXPECT_EQ(op.radius, 50.0);
+    EXPECT_NEAR(op.y2 - op.x2, 2.0 * pi, 1e-15);
+  }
 }
 
 TEST(Sxediasitoxou, DrawsNothingWithoutALens) {
@@ -79,6 +111,16 @@ TEST(Sxediasitoxou2, DrawsInTheGivenColour) {
   sxediasitoxou2(-50, 100, 20, 90, 0, 0, static_cast<int>(RGB(255, 0, 0).value));
   ASSERT_EQ(bench.surface.operations().size(), 1u);
   EXPECT_EQ(bench.surface.operations()[0].colour, RGB(255, 0, 0));
+}
+
+TEST(Sxediasitoxou2, AColourOutOfRangeIsOverflow) {
+  FakeWorkbench bench;
+  for (const double colour : {-1.0, 4294967296.0, 1e300}) {
+    EXPECT_EQ(errorNumber([&] { sxediasitoxou2(-50, 100, 20, 90, 0, 0, colour); }), 6) << colour;
+  }
+  EXPECT_TRUE(bench.surface.operations().empty());
+  EXPECT_EQ(errorNumber([&] { sxediasitoxou2(-50, 100, 20, 90, 0, 0, 0xFFFFFF); }), 0);
+  EXPECT_EQ(bench.surface.operations().size(), 1u);
 }
 
 }  // namespace
