@@ -1,5 +1,6 @@
 #include "optics/poreiaaktinon/RayPath.h"
 
+#include "canvas/RuntimeError.h"
 #include "optics/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
 
@@ -47,6 +48,7 @@ OpticalSetup setupOf(Workbench& bench) {
 }
 
 RayPath tracePath(const OpticalSetup& setup, Point start, Point direction, double phase) {
+  if (setup.n == 0.0) throwDivisionByZero();
   RayPath path;
   path.points[0] = start;
   path.n = setup.n;

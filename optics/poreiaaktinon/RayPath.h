@@ -50,10 +50,10 @@ struct RayPath {
   }
 };
 
-// Traces a ray from start along the direction, which may be of any length; the zero direction is
-// Division by zero (11). Each piece is tested against the diaphragm only where it reaches x = X. A
-// start in the glass makes the first piece a piece of glass. A ray that leaves the lens beyond the
-// drawing area and moves on away from it ends there.
+// Traces a ray from start along the direction, which may be of any length; the zero direction and
+// an index of 0 are Division by zero (11). Each piece is tested against the diaphragm only where it
+// reaches x = X. A start in the glass makes the first piece a piece of glass. A ray that leaves the
+// lens beyond the drawing area and moves on away from it ends there.
 RayPath tracePath(const OpticalSetup& setup, Point start, Point direction, double phase = 0.0);
 
 }  // namespace lensbench::poreiaaktinon

@@ -5,6 +5,7 @@
 #include "canvas/RuntimeError.h"
 #include "optics/Vector.h"
 #include "optics/poreiaaktinon/RayPath.h"
+#include "tests/support/ErrorNumber.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -54,6 +55,11 @@ TEST(TracePath, IsRefractedAtBothFaces) {
   const double exitNormal = std::asin(path.points[2].y / 100.0);
   const double out = exitNormal + std::asin(1.5 * std::sin(inGlass - exitNormal));
   expectPoint(path.directions[2], std::cos(out), std::sin(out));
+}
+
+TEST(TracePath, AnIndexOfZeroIsDivisionByZero) {
+  EXPECT_EQ(errorNumber([] { tracePath(glass(0.0), {-200.0, 0.0}, {1.0, 0.0}); }), 11);
+  EXPECT_EQ(errorNumber([] { tracePath(glass(0.0), {0.0, 0.0}, {1.0, 0.0}); }), 11);
 }
 
 TEST(TracePath, MissRunsToTheEdge) {
