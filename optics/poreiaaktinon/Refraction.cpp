@@ -35,16 +35,14 @@ DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Varian
 DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
                                         const Variant& x0, const Variant& y0, const Variant& dx,
                                         const Variant& dy) {
-  const auto stop = stoppedAt({X.value(), yA.value(), yB.value()}, {x0.value(), y0.value()},
-                              {dx.value(), dy.value()});
-  const Point point = stop.value_or(Point{x0.value(), y0.value()});
-  return {toSingle(point.x), toSingle(point.y), boolean(stop.has_value())};
+  const Variant y = dx == 0 ? y0 : y0 + (X - x0) * (dy / dx);
+  if (y > yA || y < yB) return {toSingle(X.value()), toSingle(y.value()), boolean(true)};
+  return {toSingle(x0.value()), toSingle(y0.value()), boolean(false)};
 }
 
 std::optional<Point> stoppedAt(const Diafragma& diafragma, Point start, Point direction) {
-  const double y = direction.x == 0.0
-                       ? start.y
-                       : start.y + (diafragma.X - start.x) * (direction.y / direction.x);
+  const double slope = direction.y / direction.x;
+  const double y = std::isfinite(slope) ? start.y + (diafragma.X - start.x) * slope : start.y;
   if (y > diafragma.yA || y < diafragma.yB) return Point{diafragma.X, y};
   return std::nullopt;
 }

@@ -41,12 +41,14 @@ DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Varian
 
 // elegxosdiafragmatos: whether the line of a ray from (x0, y0) along (dx, dy) misses the opening
 // from yB to yA, ends included, of a diaphragm on x = X. The whole line is tested, behind the start
-// too; a vertical ray is tested at its start.
+// too; a vertical ray is tested at its start, and one so steep that its slope is no number is
+// Overflow (6).
 DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
                                         const Variant& x0, const Variant& y0, const Variant& dx,
                                         const Variant& dy);
 
-// The same test in double: where the diaphragm stops the line, nothing when it passes.
+// The same test in double: where the diaphragm stops the line, nothing when it passes. A ray so
+// steep that its slope is no number counts as vertical.
 std::optional<Point> stoppedAt(const Diafragma& diafragma, Point start, Point direction);
 
 // Snell's law in double. direction and normal are of unit length, ratio is the index on this side

@@ -5,6 +5,7 @@
 #include "canvas/RuntimeError.h"
 #include "optics/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
+#include "tests/support/ErrorNumber.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -111,6 +112,24 @@ TEST(Elegxosdiafragmatos, VerticalRayIsTestedAtItsStart) {
   EXPECT_EQ(r.x, 50.0f);
   EXPECT_EQ(r.y, 31.0f);
   EXPECT_EQ(elegxosdiafragmatos(50, 30, -20, 7, 30, 0, 1).blocked, no);
+}
+
+TEST(Elegxosdiafragmatos, ASlopeThatIsNoNumberIsOverflow) {
+  EXPECT_EQ(errorNumber([] { elegxosdiafragmatos(50, 30, -20, 50, 31, 1e-310, 1); }), 6);
+  EXPECT_EQ(errorNumber([] { elegxosdiafragmatos(50, 30, -20, 7, 31, -1e-310, 1); }), 6);
+}
+
+TEST(StoppedAt, TakesASlopeThatIsNoNumberAsVertical) {
+  const Diafragma diafragma{50.0, 30.0, -20.0};
+  for (const double dx : {0.0, 1e-310, -1e-310}) {
+    for (const double x : {7.0, 50.0}) {
+      const auto stop = stoppedAt(diafragma, {x, 31.0}, {dx, 1.0});
+      ASSERT_TRUE(stop) << dx;
+      EXPECT_EQ(stop->x, 50.0);
+      EXPECT_EQ(stop->y, 31.0);
+      EXPECT_FALSE(stoppedAt(diafragma, {x, 29.0}, {dx, 1.0})) << dx;
+    }
+  }
 }
 
 }  // namespace
