@@ -42,6 +42,10 @@ SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& r
   return {x, k, x, -k, boolean(true)};
 }
 
+bool nearCircle(const Variant& first, const Variant& second, const Variant& r) {
+  return first <= r * 1.00005 && second <= r * 1.000005;
+}
+
 SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Variant& r,
                                const Variant& dx, const Variant& dy, const Variant& px,
                                const Variant& py) {
@@ -60,9 +64,7 @@ SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Varia
   const Variant x2 = (-B - root) / (2 * A);
   const Variant y1 = m * x1 + b;
   const Variant y2 = m * x2 + b;
-  // The second point is held to a tolerance ten times tighter than the first.
-  const bool found =
-      apostasi(x1, y1, cx, cy) <= r * 1.00005 && apostasi(x2, y2, cx, cy) <= r * 1.000005;
+  const bool found = nearCircle(apostasi(x1, y1, cx, cy), apostasi(x2, y2, cx, cy), r);
   return {x1.value(), y1.value(), x2.value(), y2.value(), boolean(found)};
 }
 

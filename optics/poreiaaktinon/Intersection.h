@@ -26,10 +26,15 @@ SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Varia
 SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& ra,
                             const Variant& rb);
 
+// Whether the two points that the slope form finds may stand for points of a circle of radius r, by
+// their distances from its centre: the first within 1.00005 r, the second, ten times tighter,
+// within 1.000005 r.
+bool nearCircle(const Variant& first, const Variant& second, const Variant& r);
+
 // tomieytheiaskyklou: the line through (px, py) along (dx, dy) with the circle (cx, cy), r; the
 // point of larger x first, of larger y on a vertical line. A tangent counts as not found; then both
-// points are (px, py), or (0, 0) for a vertical line. Slope form: a steep line loses digits, and a
-// point too far from the circle (1.00005 r, second point 1.000005 r) makes it not found.
+// points are (px, py), or (0, 0) for a vertical line. Slope form: a steep line loses digits, and
+// points too far from the circle (nearCircle) make it not found.
 SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Variant& r,
                                const Variant& dx, const Variant& dy, const Variant& px,
                                const Variant& py);

@@ -120,6 +120,18 @@ TEST(Tomieytheiaskyklou, RefusesAVerticalTangentWithZeros) {
   expectPoints(s, 0.0, 0.0, 0.0, 0.0);
 }
 
+TEST(NearCircle, HoldsTheSecondPointToATighterTolerance) {
+  for (const double r : {1.0, 5.0, 500.0}) {
+    EXPECT_TRUE(nearCircle(r, r, r));
+    EXPECT_TRUE(nearCircle(0.5 * r, 0.5 * r, r));
+    EXPECT_TRUE(nearCircle(1.00003 * r, r, r));
+    EXPECT_TRUE(nearCircle(1.00003 * r, 1.000003 * r, r));
+    EXPECT_FALSE(nearCircle(r, 1.00003 * r, r));
+    EXPECT_FALSE(nearCircle(r, 1.000006 * r, r));
+    EXPECT_FALSE(nearCircle(1.00006 * r, r, r));
+  }
+}
+
 TEST(Tomieytheiaskyklou, RefusesPointsOffTheCircle) {
   // Steep lines lose digits in the slope form, and both points land off the circle by one share of
   // the radius: beyond the tolerance of the second point, which is the tighter one, none is taken.
