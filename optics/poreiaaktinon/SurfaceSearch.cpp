@@ -60,6 +60,25 @@ bool meetsBothCircles(const Fakos& fakos, Point start, Point direction) {
          chordOf(disc2(fakos), start, direction).half > 0.0;
 }
 
+// What both named searches learn about a ray.
+struct Search {
+  bool circlesCross = false;
+  bool lineMeetsBoth = false;  // the whole line, behind the start too
+  DiadromiApotelesma result;
+};
+
+Search search(const Fakos& fakos, Point start, Point direction) {
+  Search known{circlesCross(fakos), false, {start.x, start.y, 0, 0}};
+  if (isZero(direction) || !known.circlesCross) return known;
+  const Point ahead = unit(direction);
+  known.lineMeetsBoth = meetsBothCircles(fakos, start, ahead);
+  const auto crossing = firstCrossing(fakos, start, ahead);
+  if (crossing && !isZero(crossing->point)) {
+    known.result = {crossing->point.x, crossing->point.y, boolean(true), 0};
+  }
+  return known;
+}
+
 }  // namespace
 
 bool hasLens(const Fakos& fakos) {
@@ -117,28 +136,19 @@ Crossing exitCrossing(const Fakos& fakos, Point start, Point direction) {
 void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
                      const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
                      const Variant& px, const Variant& py, const Variant& tag) {
-  diadromiaktinas2(result, xc1, xc2, R1, R2, dx, dy, px, py);
-  const Fakos fakos{xc1.value(), R1.value(), xc2.value(), R2.value()};
-  if (!circlesCross(fakos)) return;
-  result.tag = toInteger(tag.value());
-  const Point direction{dx.value(), dy.value()};
-  if (!workbenchConnected() || isZero(direction)) return;
-  if (meetsBothCircles(fakos, {px.value(), py.value()}, unit(direction))) {
-    workbench().canvas().DrawWidth(1);
-  }
+  const Search found = search({xc1.value(), R1.value(), xc2.value(), R2.value()},
+                              {px.value(), py.value()}, {dx.value(), dy.value()});
+  result = found.result;
+  if (found.circlesCross) result.tag = toInteger(tag.value());
+  if (found.lineMeetsBoth && workbenchConnected()) workbench().canvas().DrawWidth(1);
 }
 
 void diadromiaktinas2(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
                       const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
                       const Variant& px, const Variant& py) {
-  const Fakos fakos{xc1.value(), R1.value(), xc2.value(), R2.value()};
-  const Point start{px.value(), py.value()};
-  const Point direction{dx.value(), dy.value()};
-  result = {start.x, start.y, 0, 0};
-  if (isZero(direction) || !circlesCross(fakos)) return;
-  const auto crossing = firstCrossing(fakos, start, unit(direction));
-  if (!crossing || isZero(crossing->point)) return;
-  result = {crossing->point.x, crossing->point.y, boolean(true), 0};
+  result = search({xc1.value(), R1.value(), xc2.value(), R2.value()}, {px.value(), py.value()},
+                  {dx.value(), dy.value()})
+               .result;
 }
 
 }  // namespace lensbench::poreiaaktinon
