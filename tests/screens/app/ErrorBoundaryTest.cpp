@@ -8,6 +8,7 @@
 #include "app/Application.h"
 #include "app/Screens.h"
 #include "canvas/RuntimeError.h"
+#include "screens/ElSahl/ElSahl.h"
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
 #include "tests/screens/support/FakeDialogs.h"
@@ -29,11 +30,25 @@ void deliverEvents() {
 }
 
 TEST(ErrorBoundary, SaysNumberAndWordsInBothLanguages) {
-  const RuntimeError error(RuntimeError::Code::DivisionByZero, "Η ακτίνα είναι 0.");
+  const RuntimeError error(RuntimeError::Code::DivisionByZero);
   EXPECT_EQ(errorHeadline(error), "Σφάλμα 11: διαίρεση με το μηδέν · Error 11: Division by zero");
-  const QString sentence = errorSentence(error, "Ακτίνα 2 · Radius 2");
-  EXPECT_TRUE(sentence.contains("Η ακτίνα είναι 0."));
-  EXPECT_TRUE(sentence.contains("Ακτίνα 2 · Radius 2"));
+}
+
+TEST(ErrorBoundary, NamesTheActionInBothLanguages) {
+  const RuntimeError error(RuntimeError::Code::DivisionByZero, "Η ακτίνα είναι 0.");
+  EXPECT_EQ(errorSentence(error, "Ακτίνα 2 · Radius 2"),
+            "Η ακτίνα είναι 0.\n"
+            "Συνέβη στην ενέργεια «Ακτίνα 2» και το πρόγραμμα τελειώνει. "
+            "It happened at the action “Radius 2”, and the program ends.");
+  EXPECT_EQ(errorSentence(RuntimeError(RuntimeError::Code::Overflow), "SPHERICAL  LENSES"),
+            "Συνέβη στην ενέργεια «SPHERICAL  LENSES» και το πρόγραμμα τελειώνει. "
+            "It happened at the action “SPHERICAL  LENSES”, and the program ends.");
+}
+
+TEST(ErrorBoundary, SaysThatAnErrorCameAtStartUp) {
+  EXPECT_EQ(errorSentence(RuntimeError(RuntimeError::Code::Overflow), {}),
+            "Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
+            "It happened at start-up, and the program ends.");
 }
 
 TEST(ErrorBoundary, AnErrorInAHandlerEndsTheProgramAfterTheBox) {
@@ -62,13 +77,28 @@ TEST(ErrorBoundary, AnAnswerThatIsNoNumberEndsTheProgramAndNamesTheAction) {
       ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*Bundle of parallel rays");
 }
 
+TEST(ErrorBoundary, AnAngleThatIsNoNumberEndsTheProgramAndNamesTheAction) {
+  EXPECT_EXIT(
+      {
+        SpokenDialogs boxes;
+        boxes.answer = "x";
+        Screens screens;
+        Main(screens);
+        screens.openIbnSahl();
+        QTimer::singleShot(
+            0, [&screens] { screens.ElSahl().controls().parallilidesmifotos.trigger(); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*Bundle of parallel rays");
+}
+
 TEST(ErrorBoundary, StandsAroundStartUpToo) {
   EXPECT_EXIT(
       {
         const SpokenDialogs boxes;
         static_cast<Application*>(QCoreApplication::instance())->run([] { throwOverflow(); });
       },
-      ::testing::ExitedWithCode(1), "Error 6: Overflow");
+      ::testing::ExitedWithCode(1), "Error 6: Overflow(.|\n)*at start-up");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QTest>
 
 #include "app/Screens.h"
 #include "optics/protosfakos/SahlState.h"
@@ -121,6 +122,28 @@ TEST_F(Program, BackToMenuHidesTheIbnSahlScreenAndShowsTheMenu) {
   screens.ElSahl().controls().BACKKELMO.trigger();
   EXPECT_FALSE(screens.ElSahl().isVisible());
   EXPECT_TRUE(screens.eisagogiko().isVisible());
+}
+
+TEST_F(Program, WavesCountFromWhatWasLastDoneOnTheWorkbench) {
+  auto& state = protosfakos::state();
+  const auto waves = [&] {
+    screens.openLensMenu();
+    screens.eisagogiko().controls().Command2.click();
+    screens.ElSahl().controls().kymatikosahl.trigger();
+    ASSERT_GT(state.plithosaktinon.value(), 2);
+  };
+  boxes.answer = "0";
+  screens.kelmo().controls().EPANALIPSI.trigger();
+  waves();
+  EXPECT_EQ(state.kymataX[1][0].value(), 0);
+  EXPECT_EQ(state.kymataY[1][0].value(), 0);
+
+  const Point pixel = screens.kelmo().canvas().mapping().toPixel({-260.0, 70.0});
+  QTest::mouseClick(screens.kelmo().drawingArea(), Qt::LeftButton, Qt::ShiftModifier,
+                    QPointF(pixel.x, pixel.y).toPoint());
+  waves();
+  EXPECT_EQ(state.kymataX[1][0].value(), 108);
+  EXPECT_EQ(state.kymataY[1][0].value(), 25);
 }
 
 TEST_F(Program, TheCloseBoxOfTheSingleRayScreenGoesBack) {
