@@ -1,5 +1,6 @@
-// Speed of the workbench as the student meets it: a scroll-bar step, fans, bundles and ticks, from
-// the handler to the shown window, at 1920 x 1080 with two image pixels a display pixel.
+// Speed of the screens as the student meets them, from the handler to the shown window, with two
+// image pixels a display pixel: on the workbench at 1920 x 1080 a scroll-bar step, fans, bundles
+// and ticks; on the Ibn Sahl screen at the size that it has on such a display its four scenes.
 //
 // The reference is the same list of drawing operations, recorded once and played on a bare canvas
 // of the same size: what is left over it is tracing, reading the controls and showing the picture.
@@ -10,14 +11,18 @@
 #include "canvas/qt/RasterCanvas.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
+#include "screens/ElSahl/ElSahl.h"
 #include "screens/kelmo/Scene.h"
 #include "screens/kelmo/kelmo.h"
+#include "tests/screens/support/FakeDialogs.h"
 #include "tests/support/RecordingCanvas.h"
+#include "tests/unit/protosfakos/FakeSahlScreen.h"
 
 namespace lensbench {
 namespace {
 
 constexpr QSize display(1920, 1080);
+constexpr QSize sahlWindow(720, 720);
 
 // The workbench with a canvas that writes down what is drawn.
 class RecordedWorkbench : public poreiaaktinon::Workbench {
@@ -195,6 +200,74 @@ void tick(benchmark::State& state) {
       [&] { play(list, desk.bare); });
 }
 
+// The Ibn Sahl screen with one of its lenses at n = 1.5, opened as the menu opens it.
+struct SahlDesk {
+  Screens screens;
+  ElSahl& sahl;
+  protosfakos::HyperbolaAxes lens;
+  RasterCanvas bare{sahlWindow, 1.0, 2};
+
+  explicit SahlDesk(bool amfikyrtos) : sahl(screens.ElSahl()) {
+    protosfakos::SahlState& shared = protosfakos::state();
+    shared.deiktisSahl = 1.5;
+    shared.amfikyrtosSahl = amfikyrtos;
+    shared.pigiX = 108;
+    shared.pigiY = 25;
+    lens = protosfakos::deriveLens(shared.deiktisSahl).value();
+    sahl.prepare();
+    sahl.resize(sahlWindow);
+    QApplication::processEvents();
+    bare.resize(sahl.drawingArea()->size(), 1.0);
+    const Canvas& shown = sahl.canvas();
+    bare.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
+               shown.ScaleTop() + shown.ScaleHeight());
+  }
+
+  // What the routines of a scene draw on a clear screen, as a list.
+  template <typename Scene>
+  std::vector<Operation> recorded(Scene scene) {
+    protosfakos::FakeSahlScreen recorder;
+    recorder.opening = sahl.view().diafragma();
+    protosfakos::connectSahlScreen([&recorder]() -> protosfakos::SahlScreen& { return recorder; });
+    recorder.recording.Cls();
+    scene();
+    protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return sahl.view(); });
+    return recorder.recording.operations();
+  }
+
+  template <typename Handler>
+  void measure(benchmark::State& state, const std::vector<Operation>& list, Handler handler) {
+    compare(
+        state,
+        [&] {
+          handler();
+          sahl.drawingArea()->repaint();
+        },
+        [&] { play(list, bare); });
+    if (bare.image() != sahl.canvas().image()) state.SkipWithError("the pictures differ");
+    state.counters["operations"] = static_cast<double>(list.size());
+  }
+};
+
+// A press that places the source at (108, 25).
+void sahlFan(benchmark::State& state, bool amfikyrtos) {
+  SahlDesk desk(amfikyrtos);
+  const auto routine =
+      amfikyrtos ? protosfakos::sxediasiamfikyrtou : protosfakos::sxediasiepipedokyrtou;
+  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 108, 25); });
+  desk.measure(state, list, [&] { desk.sahl.Form_MouseDown(1, 0, 108, 25); });
+}
+
+// A bundle along the axis.
+void sahlBundle(benchmark::State& state, bool amfikyrtos) {
+  FakeDialogs dialogs;
+  dialogs.answer = "0";
+  SahlDesk desk(amfikyrtos);
+  const auto routine = amfikyrtos ? protosfakos::desmiamfikyrtou : protosfakos::desmiepipedokyrtou;
+  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 0); });
+  desk.measure(state, list, [&] { desk.sahl.parallilidesmifotos_Click(); });
+}
+
 BENCHMARK(scrollBarStep)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(fan)
     ->Args({20, 30, 0})
@@ -206,6 +279,10 @@ BENCHMARK(fan)
 BENCHMARK(bundle)->Arg(0)->Arg(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 // Few enough ticks to stay among those that draw.
 BENCHMARK(tick)->UseManualTime()->Iterations(70)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(sahlFan, planoConvex, false)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(sahlFan, biconvex, true)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(sahlBundle, planoConvex, false)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(sahlBundle, biconvex, true)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace lensbench
