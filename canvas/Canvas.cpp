@@ -70,13 +70,13 @@ void Canvas::Print(std::string_view text) {
 }
 
 bool Canvas::FloodFill(int pixelX, int pixelY, Rgb border) {
-  return fillArea(pixelX, pixelY, painted(border), painted(fillColor_));
+  return fillStyle_ == lensbench::FillStyle::Solid &&
+         fillArea(pixelX, pixelY, painted(border), painted(fillColor_));
 }
 
 void Canvas::Scale(double x1, double y1, double x2, double y2) {
   requireFinite({x1, y1, x2, y2, x2 - x1, y2 - y1});
   if (x1 == x2 || y1 == y2) throwDivisionByZero();
-  scaleAboutToChange();
   user_ = {x1, y1, x2 - x1, y2 - y1};
   userScale_ = true;
   scaleChanged();

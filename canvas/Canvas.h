@@ -60,7 +60,8 @@ class Canvas {
   // line of text down the screen.
   void Print(std::string_view text);
   // Fills the 4-connected area around a pixel of the client area with FillColor, up to pixels of
-  // the border colour. False when nothing was filled (start outside, or on the border colour).
+  // the border colour. False when nothing was filled: FillStyle transparent, or a start outside or
+  // on the border colour.
   bool FloodFill(int pixelX, int pixelY, Rgb border);
 
   // Upper-left corner (x1, y1), lower-right corner (x2, y2) of the client area in user units.
@@ -116,8 +117,7 @@ class Canvas {
   virtual double paintText(Point upperLeft, std::string_view text, const Font& font,
                            Rgb colour) = 0;
   virtual bool fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) = 0;
-  // Called before the scale changes, while the old one still holds, and after it.
-  virtual void scaleAboutToChange() {}
+  // Called after the scale has changed.
   virtual void scaleChanged() {}
 
   // Keeps pixels per unit and what stands at the upper-left corner when the client area has been

@@ -38,6 +38,7 @@ TEST(Resize, ASizeOfNothingIsOnePixel) {
   EXPECT_EQ(canvas.size(), QSize(1, 1));
   canvas.Line(-100, -100, 100, 100, red);
   canvas.Circle(0, 0, 50, red);
+  canvas.FillStyle(FillStyle::Solid);
   canvas.FloodFill(0, 0, black);
   canvas.Print("x");
 }

@@ -87,6 +87,17 @@ TEST(Canvas, ClosedCirclesAreFilledWhileFillStyleIsSolid) {
   EXPECT_EQ(canvas.operations().back().fill, std::optional(RGB(9, 9, 9)));
 }
 
+TEST(Canvas, ATransparentFillFillsNothing) {
+  RecordingCanvas canvas;
+  canvas.FillColor(RGB(9, 9, 9));
+  EXPECT_FALSE(canvas.FloodFill(10, 10, black));
+  EXPECT_TRUE(canvas.operations().empty());
+  canvas.FillStyle(FillStyle::Solid);
+  EXPECT_TRUE(canvas.FloodFill(10, 10, black));
+  ASSERT_EQ(canvas.operations().size(), 1u);
+  EXPECT_EQ(canvas.operations().back().fill, std::optional(RGB(9, 9, 9)));
+}
+
 TEST(Canvas, PrintMovesOneLineDownTheScreen) {
   RecordingCanvas canvas(100, 100);
   canvas.Scale(-50, 50, 50, -50);
