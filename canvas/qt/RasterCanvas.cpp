@@ -189,8 +189,8 @@ void RasterCanvas::paintDashes(const Pixels& pixels, const Stroke& pencil, const
   const double dx = line.to.x - line.from.x;
   const double dy = line.to.y - line.from.y;
   const double length = std::hypot(dx, dy);
-  if (length == 0.0) return;
   const auto at = [&](double distance) {
+    if (length == 0.0) return line.from;
     return Point{line.from.x + dx * distance / length, line.from.y + dy * distance / length};
   };
   double offset = std::fmod(phase, period);

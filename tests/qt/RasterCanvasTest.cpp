@@ -21,6 +21,15 @@ void centre(RasterCanvas& canvas) {
   canvas.Scale(-x, y, x, -y);
 }
 
+// Fills up to the border as the screens do, solid for the fill alone.
+bool fill(RasterCanvas& canvas, QPoint pixel, Rgb colour, Rgb border = black) {
+  canvas.FillColor(colour);
+  canvas.FillStyle(FillStyle::Solid);
+  const bool filled = canvas.FloodFill(pixel.x(), pixel.y(), border);
+  canvas.FillStyle(FillStyle::Transparent);
+  return filled;
+}
+
 TEST(RasterCanvas, IsWhiteAndSizedByRatioAndOversampling) {
   const RasterCanvas canvas({40, 30}, 1.5, 2);
   EXPECT_EQ(canvas.image().size(), QSize(120, 90));
@@ -282,6 +291,22 @@ TEST(RasterCanvas, ADottedCircleIsAboutHalfPainted) {
   EXPECT_GT(extent(dotted.image(), red).width(), 236);
 }
 
+TEST(RasterCanvas, ADottedFigureWithoutLengthIsAPoint) {
+  for (const int k : {1, 2}) {
+    RasterCanvas line({50, 50}, 1.0, k);
+    RasterCanvas circle({50, 50}, 1.0, k);
+    RasterCanvas solid({50, 50}, 1.0, k);
+    for (RasterCanvas* canvas : {&line, &circle, &solid}) centre(*canvas);
+    for (RasterCanvas* canvas : {&line, &circle}) canvas->DrawStyle(DrawStyle::Dotted);
+    line.Line(7, -3, 7, -3, red);
+    circle.Circle(7, -3, 0, red);
+    solid.Line(7, -3, 7, -3, red);
+    EXPECT_GE(count(solid.image(), red), 1);
+    EXPECT_EQ(line.image(), solid.image()) << k;
+    EXPECT_EQ(circle.image(), solid.image()) << k;
+  }
+}
+
 TEST(RasterCanvas, TextStandsWithItsUpperLeftCornerAtTheCurrentPoint) {
   RasterCanvas canvas({200, 100});
   canvas.Scale(0, 0, 200, 100);
@@ -324,10 +349,10 @@ TEST(RasterCanvas, AnUnbrokenBorderHoldsTheFillAtEveryRadius) {
     for (int radius = 1; radius <= 500; ++radius) {
       canvas.Cls();
       canvas.Circle(offset.x, offset.y, radius, black);
-      canvas.FillColor(green);
-      canvas.FloodFill(512, 512, black);
+      const bool filled = fill(canvas, {512, 512}, green);
       ASSERT_EQ(colourAt(canvas.image(), 0, 0), white) << "leaked at radius " << radius;
       if (radius > 2) {
+        ASSERT_TRUE(filled) << radius;
         ASSERT_EQ(colourAt(canvas.image(), 512 + radius / 2, 512), green) << radius;
       }
     }
@@ -340,8 +365,7 @@ TEST(RasterCanvas, AnUnbrokenBorderHoldsTheFillOfAnOversampledImage) {
   for (int radius = 1; radius <= 500; ++radius) {
     canvas.Cls();
     canvas.Circle(0.37, 0.11, radius, black);
-    canvas.FillColor(green);
-    canvas.FloodFill(520, 520, black);
+    EXPECT_TRUE(fill(canvas, {520, 520}, green));
     ASSERT_EQ(colourAt(canvas.image(), 0, 0), white) << "leaked at radius " << radius;
   }
 }
@@ -353,8 +377,7 @@ TEST(RasterCanvas, TwoArcsThatMeetHoldTheFill) {
     const double half = std::acos(0.5);
     canvas.Circle(-50, 0, 100, black, 2 * pi - half, half);
     canvas.Circle(50, 0, 100, black, pi - half, pi + half);
-    canvas.FillColor(RGB(220, 220, 195));
-    EXPECT_TRUE(canvas.FloodFill(200, 200, black));
+    EXPECT_TRUE(fill(canvas, {200, 200}, RGB(220, 220, 195)));
     EXPECT_EQ(colourAt(canvas.image(), 0, 0), white);
     EXPECT_EQ(colourAt(canvas.image(), 200 * k, 200 * k), RGB(220, 220, 195));
   }
@@ -366,13 +389,11 @@ TEST(RasterCanvas, TheFillPassesOtherColoursAndItsOwn) {
   canvas.Line(10, 0, 10, 49, red);
   canvas.Line(20, 0, 20, 49, green);
   canvas.Line(30, 0, 30, 49, black);
-  canvas.FillColor(green);
-  EXPECT_TRUE(canvas.FloodFill(0, 0, black));
+  EXPECT_TRUE(fill(canvas, {0, 0}, green));
   EXPECT_EQ(count(canvas.image(), green), 30 * 50);
   EXPECT_EQ(count(canvas.image(), white), 19 * 50);
   EXPECT_EQ(canvas.image().pixel(0, 0), 0xFF00FF00u);
-  canvas.FillColor(black);
-  EXPECT_TRUE(canvas.FloodFill(40, 40, black));
+  EXPECT_TRUE(fill(canvas, {40, 40}, black));
   EXPECT_EQ(count(canvas.image(), white), 0);
 }
 
@@ -380,12 +401,20 @@ TEST(RasterCanvas, AFillFromTheBorderOrFromOutsideFillsNothing) {
   RasterCanvas canvas({50, 50});
   canvas.Scale(0, 0, 50, 50);
   canvas.Line(0, 25, 49, 25, black);
-  canvas.FillColor(green);
-  EXPECT_FALSE(canvas.FloodFill(10, 25, black));
-  EXPECT_FALSE(canvas.FloodFill(-1, 10, black));
-  EXPECT_FALSE(canvas.FloodFill(10, 50, black));
-  EXPECT_FALSE(canvas.FloodFill(50, 10, black));
+  EXPECT_FALSE(fill(canvas, {10, 25}, green));
+  EXPECT_FALSE(fill(canvas, {-1, 10}, green));
+  EXPECT_FALSE(fill(canvas, {10, 50}, green));
+  EXPECT_FALSE(fill(canvas, {50, 10}, green));
   EXPECT_EQ(count(canvas.image(), green), 0);
+}
+
+TEST(RasterCanvas, ATransparentFillChangesNoPixel) {
+  RasterCanvas canvas({50, 50});
+  canvas.FillColor(green);
+  canvas.takeDirty();
+  EXPECT_FALSE(canvas.FloodFill(25, 25, black));
+  EXPECT_EQ(count(canvas.image(), white), 50 * 50);
+  EXPECT_TRUE(canvas.takeDirty().isEmpty());
 }
 
 TEST(RasterCanvas, TellsWhatHasChanged) {
@@ -422,8 +451,7 @@ TEST(RasterCanvas, NothingChangesOutsideWhatIsTold) {
         c.Print("Kύριο H1");
       },
       [](RasterCanvas& c, double x, double, double, double) {
-        c.FillColor(blue);
-        c.FloodFill(50 + int(x / 2), 50, red);
+        fill(c, {50 + int(x / 2), 50}, blue, red);
       }};
   RasterCanvas canvas({100, 100}, 1.0, 2);
   centre(canvas);
