@@ -1,5 +1,6 @@
 #include "canvas/Format.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -45,6 +46,23 @@ std::string rounded(double value, std::size_t decimals) {
   return value < 0.0 && !zero ? "-" + digits : digits;
 }
 
+// Whether a number that fits no double is too large for one, and not too small: by the place of its
+// first digit other than 0.
+bool isLarge(std::string_view digits) {
+  const auto e = digits.find_first_of("eE");
+  const std::string_view mantissa = digits.substr(0, e);
+  long long exponent = 0;
+  if (e != std::string_view::npos) {
+    std::string_view power = digits.substr(e + 1);
+    if (power.front() == '+') power.remove_prefix(1);
+    const auto read = std::from_chars(power.data(), power.data() + power.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return power.front() != '-';
+  }
+  const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
+  return exponent > first - point;
+}
+
 }  // namespace
 
 std::string formatWhole(const Variant& v) { return rounded(v.value(), 0); }
@@ -67,9 +85,7 @@ double numberFromText(std::string_view text, char decimalSign) {
   const auto read = std::from_chars(digits.data(), end, value);
   if (read.ptr != end || read.ec == std::errc::invalid_argument) throwTypeMismatch();
   if (read.ec == std::errc::result_out_of_range) {
-    const bool tiny =
-        digits.find("e-") != std::string::npos || digits.find("E-") != std::string::npos;
-    if (!tiny) throwOverflow();
+    if (isLarge(digits)) throwOverflow();
     return 0.0;
   }
   return value;

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <string>
 
 #include "canvas/Format.h"
 #include "tests/support/ErrorNumber.h"
@@ -48,7 +49,23 @@ TEST(NumberFromText, WhatIsNoNumberIsError13) {
   EXPECT_EQ(errorOf("1.000,5", ','), 13);
 }
 
-TEST(NumberFromText, TooLargeIsError6) { EXPECT_EQ(errorOf("1e999"), 6); }
+TEST(NumberFromText, TooLargeIsError6) {
+  const std::string zeros(400, '0');
+  for (const std::string& text :
+       {std::string("1e999"), std::string("-1E+999"), "1" + zeros, "1" + zeros + ".5",
+        "1" + zeros + "e-10", "0." + zeros + "1e999", std::string("1e99999999999999999999")}) {
+    EXPECT_EQ(errorOf(text.c_str()), 6) << text;
+  }
+}
+
+TEST(NumberFromText, TooSmallIsZero) {
+  const std::string zeros(400, '0');
+  for (const std::string& text :
+       {std::string("-1e-999"), "0." + zeros + "1", "." + zeros + "1", "-0." + zeros + "1e+10",
+        "1" + zeros + "e-999", std::string("1e-99999999999999999999"), "0" + zeros + "e999"}) {
+    EXPECT_EQ(numberFromText(text), 0.0) << text;
+  }
+}
 
 }  // namespace
 }  // namespace lensbench
