@@ -1,5 +1,6 @@
 #include "canvas/qt/Clipping.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -21,8 +22,10 @@ bool cut(long double along, long double room, long double& enter, long double& l
 
 long double farness(FarPoint p) { return std::fabs(p.x) + std::fabs(p.y); }
 
-Point at(FarPoint from, long double dx, long double dy, long double t) {
-  return {static_cast<double>(from.x + t * dx), static_cast<double>(from.y + t * dy)};
+// A rounding must not carry a cut end out of the box, where there may be no pixel.
+Point within(const Box& box, long double x, long double y) {
+  return {std::clamp(static_cast<double>(x), box.left, box.right),
+          std::clamp(static_cast<double>(y), box.top, box.bottom)};
 }
 
 }  // namespace
@@ -43,9 +46,9 @@ std::optional<Segment> clipped(FarPoint from, FarPoint to, const Box& box) {
     return std::nullopt;
   }
   // An end point that is kept is kept to the last bit.
-  const Point first = enter > 0.0L ? at(from, dx, dy, enter) : at(from, 0.0L, 0.0L, 0.0L);
-  const Point last = leave < 1.0L ? at(from, dx, dy, leave) : at(to, 0.0L, 0.0L, 0.0L);
-  return Segment{first, last};
+  const auto at = [&](long double t) { return within(box, from.x + t * dx, from.y + t * dy); };
+  return Segment{enter > 0.0L ? at(enter) : within(box, from.x, from.y),
+                 leave < 1.0L ? at(leave) : within(box, to.x, to.y)};
 }
 
 }  // namespace lensbench

@@ -22,7 +22,8 @@ struct FarPoint {
   long double y;
 };
 
-// The part of the segment inside the box, by Liang and Barsky; none when it passes the box by.
+// The part of the segment inside the box, by Liang and Barsky; none when it passes the box by. Both
+// its ends lie in the box.
 std::optional<Segment> clipped(FarPoint from, FarPoint to, const Box& box);
 
 }  // namespace lensbench

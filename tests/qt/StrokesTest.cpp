@@ -1,8 +1,10 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 #include <random>
 
 #include "canvas/qt/BoxFilter.h"
+#include "canvas/qt/Chords.h"
 #include "canvas/qt/Strokes.h"
 #include "tests/qt/Pictures.h"
 
@@ -18,6 +20,31 @@ double distance(Point p, const Segment& s) {
   t = std::clamp(t, 0.0, 1.0);
   return std::hypot(p.x - s.from.x - t * dx, p.y - s.from.y - t * dy);
 }
+
+// An image in the middle of a larger one, whose rows above and below are seen to be left alone.
+struct GuardedImage {
+  GuardedImage(int width, int height)
+      : whole(width, height + 2 * rows, QImage::Format_RGB32),
+        image(whole.scanLine(rows), width, height, whole.bytesPerLine(), QImage::Format_RGB32) {
+    whole.fill(opaque(blue));
+  }
+  GuardedImage(const GuardedImage&) = delete;
+  GuardedImage& operator=(const GuardedImage&) = delete;
+
+  bool untouchedAround() const {
+    for (int y = 0; y < rows; ++y) {
+      for (int x = 0; x < whole.width(); ++x) {
+        if (whole.pixel(x, y) != opaque(blue)) return false;
+        if (whole.pixel(x, whole.height() - 1 - y) != opaque(blue)) return false;
+      }
+    }
+    return true;
+  }
+
+  static constexpr int rows = 2;
+  QImage whole;
+  QImage image;  // shares the pixels of whole
+};
 
 TEST(Strokes, ARoundPenPaintsWhatIsWithinItsRadius) {
   std::mt19937 random(5);
@@ -78,6 +105,67 @@ TEST(Strokes, AThinLineIsAnUnbrokenChainNearTheTrueLine) {
   }
 }
 
+TEST(Strokes, AThinLineThatARoundingPutOutsideStaysInTheImage) {
+  GuardedImage guarded(50, 50);
+  const Pixels pixels(guarded.image);
+  for (const double off : {-1e-19, 50.0}) {
+    const int border = off < 0.0 ? 0 : 49;
+    guarded.image.fill(opaque(white));
+    strokeThin(pixels, {{3.0, off}, {40.0, off}}, opaque(red));
+    EXPECT_EQ(extent(guarded.image, red), QRect(3, border, 38, 1));
+    guarded.image.fill(opaque(white));
+    strokeThin(pixels, {{off, 3.0}, {off, 40.0}}, opaque(red));
+    EXPECT_EQ(extent(guarded.image, red), QRect(border, 3, 1, 38));
+    guarded.image.fill(opaque(white));
+    strokeThin(pixels, {{3.0, off}, {40.0, off < 0.0 ? 0.9 : 49.1}}, opaque(red));
+    EXPECT_EQ(extent(guarded.image, red), QRect(3, border, 38, 1));
+    guarded.image.fill(opaque(white));
+    strokeThin(pixels, {{off, 3.0}, {off < 0.0 ? 0.9 : 49.1, 40.0}}, opaque(red));
+    EXPECT_EQ(extent(guarded.image, red), QRect(border, 3, 1, 38));
+  }
+  EXPECT_TRUE(guarded.untouchedAround());
+}
+
+TEST(Strokes, CirclesAcrossTheBordersStayInTheImage) {
+  std::mt19937 random(9);
+  std::uniform_real_distribution<double> fraction(0.0, 1.0);
+  for (const int k : {1, 2}) {
+    GuardedImage guarded(1600 * k, 800 * k);
+    guarded.image.fill(opaque(white));
+    const Pixels pixels(guarded.image);
+    const double margin = k == 1 ? 0.0 : 2.0;  // as wide as the pen, which is k wide
+    const Box box{-margin, -margin, pixels.width + margin, pixels.height + margin};
+    int chords = 0;
+    for (int radius = 50; radius <= 500; ++radius) {
+      for (const Point about :
+           {Point{800.0, 400.0}, Point{0.0, 400.0}, Point{800.0, double(radius)},
+            Point{1600.0 - radius, 800.0 - radius}}) {
+        const Point centre{k * (about.x + fraction(random) - 0.5),
+                           k * (about.y + fraction(random) - 0.5)};
+        Chords({centre, double(k * radius), 0.0, 2.0 * std::numbers::pi})
+            .visitNear(box, [&](const Segment& chord, double) {
+              const auto visible =
+                  clipped({chord.from.x, chord.from.y}, {chord.to.x, chord.to.y}, box);
+              if (!visible) return;
+              ++chords;
+              for (const Point end : {visible->from, visible->to}) {
+                ASSERT_TRUE(end.x >= box.left && end.x <= box.right && end.y >= box.top &&
+                            end.y <= box.bottom);
+              }
+              if (k == 1) {
+                strokeThin(pixels, *visible, opaque(red));
+              } else {
+                strokeRound(pixels, *visible, k / 2.0, opaque(red));
+              }
+            });
+      }
+      ASSERT_TRUE(guarded.untouchedAround()) << "radius " << radius << " at " << k;
+    }
+    EXPECT_GT(chords, 50000);
+    EXPECT_GT(count(guarded.image, red), 300000);
+  }
+}
+
 TEST(Strokes, ADotStampIsSymmetric) {
   for (int diameter = 1; diameter <= 30; ++diameter) {
     QImage image(diameter, diameter, QImage::Format_RGB32);
@@ -101,6 +189,14 @@ TEST(Clipping, KeepsWhatIsInsideToTheLastBit) {
   EXPECT_EQ(across->to.x, 10.0);
   EXPECT_FALSE(clipped({-1, 0}, {-1, 10}, box));
   EXPECT_FALSE(clipped({-10, 5}, {5, 25}, box));
+  for (const double off : {-1e-19, 10.000000000000001}) {
+    for (const double inside_ : {5.0, 9.99}) {
+      const auto grazing = clipped({off, off}, {inside_, 3.0}, box);
+      if (!grazing) continue;
+      EXPECT_GE(std::min(grazing->from.x, grazing->from.y), 0.0);
+      EXPECT_LE(std::max(grazing->from.x, grazing->from.y), 10.0);
+    }
+  }
   EXPECT_TRUE(clipped({3, 3}, {3, 3}, box));
   EXPECT_FALSE(clipped({13, 3}, {13, 3}, box));
 }
