@@ -9,7 +9,11 @@ MenuEntry::MenuEntry(Form& form, const QString& name, const QString& caption)
   setObjectName(name);
   showCaption();
   form.addMenuEntry(this);
-  connect(this, &QAction::triggered, this, &MenuEntry::Click);
+  connect(this, &QAction::triggered, this, [this] {
+    // The toolkit has turned the mark over already.
+    if (isCheckable()) setChecked(checked_);
+    emit Click();
+  });
 }
 
 void MenuEntry::Caption(const QString& caption) {
@@ -19,6 +23,8 @@ void MenuEntry::Caption(const QString& caption) {
 
 void MenuEntry::Checked(bool checked) {
   checked_ = checked;
+  setCheckable(true);
+  setChecked(checked);
   showCaption();
 }
 

@@ -16,7 +16,8 @@ class MenuEntry : public QAction {
 
   QString Caption() const { return caption_; }
   void Caption(const QString& caption);
-  // The check mark; only code sets and takes it.
+  // The check mark; only code sets and takes it. Once it has been set or taken, the entry is one
+  // that carries a mark, for those who cannot see it too.
   bool Checked() const noexcept { return checked_; }
   void Checked(bool checked);
 

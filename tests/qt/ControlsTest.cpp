@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+#include <QAccessible>
 #include <QMenuBar>
 #include <QStyleHints>
 #include <QTest>
@@ -202,6 +203,34 @@ TEST_F(Controls, TheCheckMarkOfAMenuEntryIsSeenAndOnlyCodeSetsIt) {
   EXPECT_TRUE(waves.Checked());
   waves.Checked(false);
   EXPECT_EQ(waves.text(), "WAVES");
+}
+
+TEST_F(Controls, TheCheckMarkOfAMenuEntryIsToldToThoseWhoCannotSeeIt) {
+  MenuEntry waves(form, "parallilakymata", "WAVES");
+  MenuEntry end(form, "TELIOMA", "END");
+  const auto told = [&](int entry) {
+    const auto* bar = QAccessible::queryAccessibleInterface(form.menuBar());
+    return bar->child(entry)->state();
+  };
+  waves.Checked(false);
+  EXPECT_TRUE(told(0).checkable);
+  EXPECT_FALSE(told(0).checked);
+  EXPECT_FALSE(told(1).checkable);
+
+  bool seenByHandler = true;
+  QObject::connect(&waves, &MenuEntry::Click, [&] { seenByHandler = waves.isChecked(); });
+  waves.trigger();
+  EXPECT_FALSE(seenByHandler);
+  EXPECT_FALSE(told(0).checked);
+  waves.Checked(true);
+  EXPECT_TRUE(told(0).checked);
+  waves.trigger();
+  EXPECT_TRUE(seenByHandler);
+  EXPECT_TRUE(told(0).checked);
+
+  QObject::connect(&waves, &MenuEntry::Click, [&] { waves.Checked(false); });
+  waves.trigger();
+  EXPECT_FALSE(told(0).checked);
 }
 
 TEST_F(Controls, FontNamesResolveToInstalledFacesAndTextIsNeverTiny) {
