@@ -15,8 +15,9 @@ namespace lensbench {
 
 class DrawingArea;
 
-// What a form looks like before any code has run. Places are the client area's, in twips; without
-// a background the platform's own is taken.
+// What a form looks like before any code has run. Places are the client area's, in twips; left and
+// top are kept as designed but not followed: where a window opens is up to its screen and the
+// display. Without a background the platform's own is taken.
 struct FormDesign {
   QString name;
   QString caption;
