@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 #include <numbers>
 
+#include "optics/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "optics/poreiaaktinon/Faces.h"
+#include "optics/poreiaaktinon/SurfaceSearch.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
@@ -36,9 +38,17 @@ Fakos anyLens(RandomBench& random) {
   return fakos;
 }
 
+bool finite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+
 bool finite(const RayPath& path) {
-  for (std::size_t i = 0; i <= static_cast<std::size_t>(path.pieces); ++i) {
-    if (!std::isfinite(path.points[i].x) || !std::isfinite(path.points[i].y)) return false;
+  const auto pieces = static_cast<std::size_t>(path.pieces);
+  for (std::size_t i = 0; i <= pieces; ++i) {
+    if (!finite(path.points[i])) return false;
+  }
+  for (std::size_t i = 0; i < pieces; ++i) {
+    if (!finite(path.directions[i]) || std::fabs(length(path.directions[i]) - 1.0) > 1e-9) {
+      return false;
+    }
   }
   return std::isfinite(path.phase);
 }
@@ -89,6 +99,43 @@ TEST(RobustnessLaws, BundlesAtAnyAngleStayFiniteAndDraw) {
     ASSERT_NO_THROW(drawPaths(bench.surface, paths, bench.shown)) << degrees;
     ASSERT_LT(bench.surface.operations().size(), paths.size() * 1000);
   }
+}
+
+// The single-ray screen: circle 1 about the origin, and directions that are the difference of two
+// points of the mouse, so of any length, and level or vertical now and then.
+TEST(RobustnessLaws, AnySingleRayIsTracedAndDrawnWithoutAnError) {
+  RandomBench random(33);
+  FakeWorkbench bench;
+  int throughTheLens = 0;
+  for (int i = 0; i < 20000; ++i) {
+    Fakos f = anyLens(random);
+    f.xc1 = 0.0;
+    const double n = random.index();
+    bench.opening = anyDiaphragm(random);
+    const Point p = random.source();
+    Point d = random.source() - p;
+    if (i % 5 == 0) d.x = 0.0;
+    if (i % 5 == 1) d.y = 0.0;
+    if (i % 5 == 2) d = (1.0 / 1024.0) * d;
+    if (isZero(d)) continue;
+
+    DiadromiApotelesma meeting;
+    bench.surface.forget();
+    ASSERT_NO_THROW({
+      diadromiaktinas(meeting, f.xc1, f.xc2, f.R1, f.R2, d.x, d.y, p.x, p.y, i);
+      poreiamiasaktinas(bench.surface, p.x, p.y, d.x, d.y, i % 3, f.xc2, f.R1, f.R2, n);
+      sxediasidesmis(bench.surface, p.x, p.y, d.x, d.y, f.xc1, f.xc2, f.R1, f.R2, n);
+      sxediasikymaton(bench.surface, p.x, p.y, d.x, d.y, f.xc1, f.xc2, f.R1, f.R2, n);
+    }) << f.R1
+       << " " << f.xc2 << " " << f.R2 << " n=" << n << " case " << i;
+    ASSERT_TRUE(finite(Point{meeting.x, meeting.y})) << i;
+    ASSERT_TRUE(meeting.found != 0 || (meeting.x == p.x && meeting.y == p.y)) << i;
+    throughTheLens += meeting.found != 0 ? 1 : 0;
+    ASSERT_TRUE(finite(tracePath({f, n, bench.opening, testEdges}, p, d))) << i;
+    ASSERT_GE(bench.surface.operations(Operation::Kind::Line).size(), 2u) << i;
+    ASSERT_LT(bench.surface.operations().size(), 1000u) << i;
+  }
+  EXPECT_GT(throughTheLens, 1000);
 }
 
 }  // namespace
