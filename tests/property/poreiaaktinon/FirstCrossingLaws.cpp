@@ -16,8 +16,8 @@ bool nearACircle(const Fakos& fakos, Point p) {
   return off1 <= 0.00051 || off2 <= 0.00051;
 }
 
-// How far inside the nearer rim a point of a face must be for both constructions to agree on which
-// face it is.
+// Whether a point stands on both circles at once: there rounding decides which face it is on, and
+// the two constructions need not agree.
 bool nearTheRim(const Fakos& fakos, long double x, long double y) {
   const long double off1 = std::fabs(std::hypot(x - fakos.xc1, y) - fakos.R1);
   const long double off2 = std::fabs(std::hypot(x - fakos.xc2, y) - fakos.R2);

@@ -16,8 +16,7 @@
 namespace lensbench::poreiaaktinon {
 namespace {
 
-// A source to the left of the lens, outside both circles' near zones, so that its rays start in
-// air.
+// Well outside one of the circles at least, and so outside the lens: rays from there start in air.
 bool inAir(const Fakos& fakos, Point p) {
   return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
          length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
