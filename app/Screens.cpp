@@ -23,6 +23,7 @@ Screen& existing(std::unique_ptr<Screen>& screen, Moves& moves) {
 }  // namespace
 
 Screens::Screens() {
+  // The workbench takes the connection over once it is created; this one creates it.
   poreiaaktinon::connectWorkbench(
       [this]() -> poreiaaktinon::Workbench& { return kelmo().workbench(); });
   protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return ElSahl().view(); });
