@@ -15,8 +15,8 @@ constexpr double onFace = 0.0005;
 
 struct Disc {
   Point centre;
-  double radius;
-  Face face;
+  double radius = 0.0;
+  Face face = Face::None;
 };
 Disc disc1(const Fakos& fakos) { return {{fakos.xc1, 0.0}, fakos.R1, Face::Right}; }
 Disc disc2(const Fakos& fakos) { return {{fakos.xc2, 0.0}, fakos.R2, Face::Left}; }
@@ -24,9 +24,9 @@ Disc disc2(const Fakos& fakos) { return {{fakos.xc2, 0.0}, fakos.R2, Face::Left}
 // Where a line runs inside a disc. It is measured from the foot of the perpendicular from the
 // centre, so that its ends lie on the circle however far away or steep the ray is.
 struct Chord {
-  Point foot;     // relative to the centre
-  double middle;  // distance from the start to the foot along the ray
-  double half;    // half the chord; 0 when the line does not enter the disc
+  Point foot;           // relative to the centre
+  double middle = 0.0;  // distance from the start to the foot along the ray
+  double half = 0.0;    // half the chord; 0 when the line does not enter the disc
 
   double leave() const { return middle + half; }
 };
