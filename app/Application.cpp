@@ -42,14 +42,14 @@ QString errorHeadline(const RuntimeError& error) {
 QString errorSentence(const RuntimeError& error, const QString& action) {
   // An action is named in both languages, the Greek name first.
   const QString between = QStringLiteral(" · ");
-  const QString sentence =
-      action.isEmpty() ? QStringLiteral(
-                             "Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
-                             "It happened at start-up, and the program ends.")
-                       : QStringLiteral(
-                             "Συνέβη στην ενέργεια «%1» και το πρόγραμμα τελειώνει. "
-                             "It happened at the action “%2”, and the program ends.")
-                             .arg(action.section(between, 0, 0), action.section(between, -1));
+  QString sentence = action.isEmpty()
+                         ? QStringLiteral(
+                               "Συνέβη στο ξεκίνημα και το πρόγραμμα τελειώνει. "
+                               "It happened at start-up, and the program ends.")
+                         : QStringLiteral(
+                               "Συνέβη στην ενέργεια «%1» και το πρόγραμμα τελειώνει. "
+                               "It happened at the action “%2”, and the program ends.")
+                               .arg(action.section(between, 0, 0), action.section(between, -1));
   if (error.detail().empty()) return sentence;
   return QString::fromStdString(error.detail()) + QLatin1Char('\n') + sentence;
 }
