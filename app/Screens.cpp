@@ -7,6 +7,7 @@
 #include "optics/poreiaaktinon/Workbench.h"
 #include "optics/protosfakos/SahlState.h"
 #include "screens/ElSahl/ElSahl.h"
+#include "screens/Texts.h"
 #include "screens/eisagogiko/eisagogiko.h"
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
@@ -73,8 +74,8 @@ void Main(Screens& screens) {
   auto& menu = screens.eisagogiko();
   auto& state = protosfakos::state();
   state.deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
-  menu.controls().Label1.Caption(QStringLiteral("Index of Refraction n=") +
-                                 QString::fromStdString(formatHundredths(state.deiktisSahl)));
+  menu.controls().Label1.Caption(
+      labelled("Index of Refraction n=", formatHundredths(state.deiktisSahl)));
   state.deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
 }
 

@@ -28,6 +28,9 @@ struct FormDesign {
   std::optional<Rgb> background;
 };
 
+// The button of the mouse events that acts on the drawing screens.
+constexpr int leftButton = 1;
+
 class Form : public QMainWindow {
   Q_OBJECT
 

@@ -14,6 +14,14 @@ ScrollBar::ScrollBar(Form& form, const QString& name, Qt::Orientation orientatio
   connect(this, &QScrollBar::valueChanged, this, &ScrollBar::Change);
 }
 
+void ScrollBar::range(int least, int most, int largeStep, int value) {
+  Min(least);
+  Max(most);
+  LargeChange(largeStep);
+  SmallChange(1);
+  Value(value);
+}
+
 void ScrollBar::paintEvent(QPaintEvent* event) {
   QScrollBar::paintEvent(event);
   if (!hasFocus()) return;

@@ -25,6 +25,8 @@ class ScrollBar : public Control<QScrollBar> {
   void LargeChange(int step) { setPageStep(step); }
   int SmallChange() const { return singleStep(); }
   void SmallChange(int step) { setSingleStep(step); }
+  // The design data of a bar at once; an arrow steps by 1.
+  void range(int least, int most, int largeStep, int value);
 
  signals:
   // A new value, by hand (also while dragging) or from code.

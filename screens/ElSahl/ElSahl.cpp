@@ -19,7 +19,6 @@ using protosfakos::state;
 
 namespace {
 
-constexpr int leftButton = 1;
 constexpr int arrow = 1;
 constexpr int cross = 2;
 constexpr double scaleLeft = -120.0;

@@ -16,11 +16,7 @@ MenuControls::MenuControls(Form& form)
       deiktissahl(form, "deiktissahl", Qt::Horizontal, {360, 2280, 2535, 375}),
       Command3(form, "Command3", {4680, 600, 2175, 855}),
       Label1(form, "Label1", {3120, 2160, 1575, 735}) {
-  deiktissahl.Min(100);
-  deiktissahl.Max(250);
-  deiktissahl.Value(150);
-  deiktissahl.LargeChange(20);
-  deiktissahl.SmallChange(1);
+  deiktissahl.range(100, 250, 20, 150);
   setTexts();
   makeRoom();
   describeAll();

@@ -7,6 +7,7 @@
 #include "optics/protosfakos/SahlState.h"
 #include "optics/protosfakos/Scenes.h"
 #include "screens/Handlers.h"
+#include "screens/Texts.h"
 
 namespace lensbench {
 
@@ -22,10 +23,6 @@ constexpr int sourceX = protosfakos::semiAxis * 9;
 constexpr int sourceY = 25;
 
 const FormDesign design{"eisagogiko", "CHOOSE  LENS", 60, 405, 7485, 5520, {}};
-
-QString labelled(const char* caption, const Variant& index) {
-  return QString::fromUtf8(caption) + QString::fromStdString(formatHundredths(index));
-}
 
 }  // namespace
 
@@ -46,13 +43,13 @@ void eisagogiko::connectHandlers() {
 
 void eisagogiko::Form_Load() {
   state().deiktisSahl = index();
-  controls_.Label1.Caption(labelled(captionAtLoad, state().deiktisSahl));
+  controls_.Label1.Caption(labelled(captionAtLoad, formatHundredths(state().deiktisSahl)));
 }
 
 double eisagogiko::index() const { return controls_.deiktissahl.Value() / 100.0; }
 
 void eisagogiko::deiktissahl_Change() {
-  controls_.Label1.Caption(labelled(captionAtChange, index()));
+  controls_.Label1.Caption(labelled(captionAtChange, formatHundredths(index())));
   state().deiktisSahl = index();
 }
 

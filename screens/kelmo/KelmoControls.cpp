@@ -14,14 +14,6 @@ constexpr Place arranged{};
 // A shape of this diameter; where it stands is for the screen to say.
 constexpr Place ofDiameter(double twips) { return {0.0, 0.0, twips, twips}; }
 
-void setRange(ScrollBar& bar, int lowest, int highest, int largeStep, int value) {
-  bar.Min(lowest);
-  bar.Max(highest);
-  bar.LargeChange(largeStep);
-  bar.SmallChange(1);
-  bar.Value(value);
-}
-
 }  // namespace
 
 KelmoControls::KelmoControls(Form& form)
@@ -66,21 +58,23 @@ KelmoControls::KelmoControls(Form& form)
   setShapes();
   describeAll();
   setTabOrder();
+  // Unmarked, and known as entries that carry a mark.
+  for (MenuEntry* entry : {&parallilakymata, &kymatachronika}) entry->Checked(false);
   Timer1.Enabled(true);
   Timer2.Enabled(false);
 }
 
 void KelmoControls::setRanges() {
-  setRange(aktina1, 50, 500, 40, 100);
-  setRange(aktina2, 0, 500, 1, 90);
-  setRange(kentrokykloy2, -500, 0, 40, -50);
-  setRange(kentrokykloy, 0, 500, 40, 20);
-  setRange(deiktisdiathlasis, 40, 250, 10, 150);
-  setRange(desmi1, 2, 150, 10, 20);
-  setRange(arvimaton, 5, 150, 1, 30);
-  setRange(HScroll1, -100, 100, 5, 0);
-  setRange(VScroll1, -100, 0, 10, 0);
-  setRange(VScroll2, 0, 100, 10, 0);
+  aktina1.range(50, 500, 40, 100);
+  aktina2.range(0, 500, 1, 90);
+  kentrokykloy2.range(-500, 0, 40, -50);
+  kentrokykloy.range(0, 500, 40, 20);
+  deiktisdiathlasis.range(40, 250, 10, 150);
+  desmi1.range(2, 150, 10, 20);
+  arvimaton.range(5, 150, 1, 30);
+  HScroll1.range(-100, 100, 5, 0);
+  VScroll1.range(-100, 0, 10, 0);
+  VScroll2.range(0, 100, 10, 0);
 }
 
 void KelmoControls::setTexts() {

@@ -4,7 +4,9 @@
 
 #include "canvas/Format.h"
 #include "optics/poreiaaktinon/RayPath.h"
+#include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
+#include "screens/Texts.h"
 #include "screens/kelmo/Scene.h"
 
 namespace lensbench {
@@ -17,10 +19,6 @@ constexpr const char* rightCentreCaption = "Κέντρο δεξί κύκλου="
 constexpr const char* timesGreek = "Times New Roman Greek";
 
 const FormDesign design{"kelmo", "SPHERICAL  LENSES", 165, 735, 11070, 6120, systemColour(5)};
-
-QString text(const char* caption, const std::string& number) {
-  return QString::fromUtf8(caption) + QString::fromStdString(number);
-}
 
 }  // namespace
 
@@ -71,22 +69,20 @@ void kelmo::Form_Load() {
   c.Text1.FontName(timesGreek);
   c.Text2.FontName(timesGreek);
   vima = fanStep();
-  c.Text1.Text(text(rayCount, formatHundredths(Int(360 / vima))));
-  c.Text2.Text(text(indexCaption, formatHundredths(c.deiktisdiathlasis.Value() / 100.0)));
+  c.Text1.Text(labelled(rayCount, formatHundredths(Int(360 / vima))));
+  c.Text2.Text(labelled(indexCaption, formatHundredths(c.deiktisdiathlasis.Value() / 100.0)));
   c.Text3.FontName(timesGreek);
   c.Text4.FontName(timesGreek);
-  c.Label3.Caption(text(multiplierCaption, formatWhole(c.arvimaton.Value())));
-  c.Text5.Text(text("Ακτίνα2=", formatWhole(c.aktina2.Value())));
-  c.Text6.Text(text("Ακτίνα1=", formatWhole(c.aktina1.Value())));
-  c.Text7.Text(text(rightCentreCaption, formatWhole(c.kentrokykloy.Value())));
+  c.Label3.Caption(labelled(multiplierCaption, formatWhole(c.arvimaton.Value())));
+  c.Text5.Text(labelled("Ακτίνα2=", formatWhole(c.aktina2.Value())));
+  c.Text6.Text(labelled("Ακτίνα1=", formatWhole(c.aktina1.Value())));
+  c.Text7.Text(labelled(rightCentreCaption, formatWhole(c.kentrokykloy.Value())));
   placeScene();
 }
 
 void kelmo::placeScene() {
-  const double W = drawingArea()->width();
-  const double H = drawingArea()->height();
   controls_.arrange(drawingArea()->width(), drawingArea()->height());
-  canvas().Scale(-600 * W / (W + H), 600 * H / (W + H), 600 * W / (W + H), -600 * H / (W + H));
+  scaleToClientArea(*this);
   controls_.pigi.Left(-200);
   controls_.pigi.Top(0);
   xpigi = -200;
@@ -139,17 +135,17 @@ Variant kelmo::fanStep() const {
 
 void kelmo::aktina1_Change() {
   controls_.Text6.FontName("Times New Roman");
-  controls_.Text6.Text(text("Ακτίνα1 =", formatWhole(controls_.aktina1.Value())));
+  controls_.Text6.Text(labelled("Ακτίνα1 =", formatWhole(controls_.aktina1.Value())));
   clearAndDraw();
 }
 
 void kelmo::aktina2_Change() {
-  controls_.Text5.Text(text("Ακτίνα2 =", formatWhole(controls_.aktina2.Value())));
+  controls_.Text5.Text(labelled("Ακτίνα2 =", formatWhole(controls_.aktina2.Value())));
   clearAndDraw();
 }
 
 void kelmo::kentrokykloy_Change() {
-  controls_.Text7.Text(text(rightCentreCaption, formatWhole(controls_.kentrokykloy.Value())));
+  controls_.Text7.Text(labelled(rightCentreCaption, formatWhole(controls_.kentrokykloy.Value())));
   clearAndDraw();
 }
 
@@ -158,18 +154,18 @@ void kelmo::kentrokykloy2_Change() { clearAndDraw(); }
 void kelmo::deiktisdiathlasis_Change() {
   n = controls_.deiktisdiathlasis.Value() / 100.0;
   controls_.Text2.FontName(timesGreek);
-  controls_.Text2.Text(text(indexCaption, formatHundredths(n)));
+  controls_.Text2.Text(labelled(indexCaption, formatHundredths(n)));
 }
 
 void kelmo::arvimaton_Change() {
   vima = fanStep();
-  controls_.Label3.Caption(text(multiplierCaption, formatWhole(controls_.arvimaton.Value())));
+  controls_.Label3.Caption(labelled(multiplierCaption, formatWhole(controls_.arvimaton.Value())));
 }
 
 void kelmo::desmi1_Change() {
   vima = fanStep();
   controls_.Text1.FontName(timesGreek);
-  controls_.Text1.Text(text(rayCount, formatHundredths(Int(360 / vima))));
+  controls_.Text1.Text(labelled(rayCount, formatHundredths(Int(360 / vima))));
 }
 
 void kelmo::Check1_Click() {

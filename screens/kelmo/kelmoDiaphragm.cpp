@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "canvas/Format.h"
+#include "screens/Texts.h"
 #include "screens/kelmo/kelmo.h"
 
 namespace lensbench {
@@ -39,10 +40,8 @@ void kelmo::placeDiaphragm(const Diafragma& diafragma) {
   };
   place(controls_.Line1, edges.upper, diafragma.yA);
   place(controls_.Line2, edges.lower, diafragma.yB);
-  controls_.Text3.Text(QStringLiteral("οπή διαφράγματος =") +
-                       QString::fromStdString(formatWhole(diafragma.yA - diafragma.yB)));
-  controls_.Text4.Text(QStringLiteral("Θέση διαφράγματος") +
-                       QString::fromStdString(formatWhole(diafragma.X)));
+  controls_.Text3.Text(labelled("οπή διαφράγματος =", formatWhole(diafragma.yA - diafragma.yB)));
+  controls_.Text4.Text(labelled("Θέση διαφράγματος", formatWhole(diafragma.X)));
 }
 
 void kelmo::slidersFollowBlades() {

@@ -10,7 +10,6 @@
 namespace lensbench {
 namespace {
 
-constexpr int leftButton = 1;
 constexpr int shiftKey = 1;
 
 void centreMarkerAt(Shape& marker, Point p) {

@@ -6,12 +6,6 @@
 namespace lensbench {
 namespace {
 
-void setRange(ScrollBar& bar, int least, int most, int value) {
-  bar.Min(least);
-  bar.Max(most);
-  bar.Value(value);
-}
-
 void widenFor(TextBox& box, const char* widestText) {
   const int width = box.widthForText(QString::fromUtf8(widestText));
   box.resize(std::max(box.width(), width), box.height());
@@ -39,14 +33,10 @@ MoniaktinaControls::MoniaktinaControls(Form& form)
 }
 
 void MoniaktinaControls::setRanges() {
-  setRange(aktina1, 50, 500, 90);
-  aktina1.LargeChange(40);
-  setRange(aktina2, 0, 500, 100);
-  aktina2.LargeChange(1);
-  setRange(kentrokykloy, 0, 500, 100);
-  kentrokykloy.LargeChange(40);
-  setRange(deiktisdiathlasis, 40, 250, 150);
-  deiktisdiathlasis.LargeChange(10);
+  aktina1.range(50, 500, 40, 90);
+  aktina2.range(0, 500, 1, 100);
+  kentrokykloy.range(0, 500, 40, 100);
+  deiktisdiathlasis.range(40, 250, 10, 150);
 }
 
 void MoniaktinaControls::setLooks() {

@@ -3,7 +3,9 @@
 #include "canvas/Format.h"
 #include "optics/poreiaaktinon/Numbers.h"
 #include "optics/poreiaaktinon/Tracing.h"
+#include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
+#include "screens/Texts.h"
 #include "screens/moniaktina/SingleRayPicture.h"
 
 namespace lensbench {
@@ -12,17 +14,11 @@ namespace {
 using poreiaaktinon::SinglePair;
 using poreiaaktinon::toSingle;
 
-constexpr int leftButton = 1;
-
 const FormDesign design{"moniaktina", "ΜΙΑ ΑΚΤΙΝΑ", 60, 315, 6630, 3225, RGB(255, 255, 255)};
 
-QString text(const char* caption, const std::string& number) {
-  return QString::fromUtf8(caption) + QString::fromStdString(number);
-}
-
-QString radius1Text(int value) { return text("Ακτίνα 1 =", formatWhole(value)); }
-QString radius2Text(int value) { return text("Ακτίνα 2 =", formatWhole(value)); }
-QString centreText(int value) { return text("Κέντρο δεξιά=", formatWhole(value)); }
+QString radius1Text(int value) { return labelled("Ακτίνα 1 =", formatWhole(value)); }
+QString radius2Text(int value) { return labelled("Ακτίνα 2 =", formatWhole(value)); }
+QString centreText(int value) { return labelled("Κέντρο δεξιά=", formatWhole(value)); }
 
 }  // namespace
 
@@ -56,21 +52,15 @@ void moniaktina::fitDisplay() {
   // A screen that was left by the keyboard during a drag saw no release.
   controls_.aim.Visible(false);
   fillDisplay();
-  scaleToClientArea();
+  scaleToClientArea(*this);
 }
 
 void moniaktina::resized() {
   // The real size of the window is known only after the window manager has placed it; until the
   // student touches the screen the picture fits itself to every size. Later it stays.
   if (!justOpened_) return;
-  scaleToClientArea();
+  scaleToClientArea(*this);
   drawLens();
-}
-
-void moniaktina::scaleToClientArea() {
-  const double W = drawingArea()->width();
-  const double H = drawingArea()->height();
-  canvas().Scale(-600 * W / (W + H), 600 * H / (W + H), 600 * W / (W + H), -600 * H / (W + H));
 }
 
 void moniaktina::drawLens() {
@@ -114,7 +104,7 @@ void moniaktina::Form_Load() {
   c.Text5.Text(radius2Text(c.aktina2.Value()));
   c.Text7.Text(centreText(c.kentrokykloy.Value()));
   c.Text2.Text(
-      text("Index of Refraction n = ", formatHundredths(c.deiktisdiathlasis.Value() / 100.0)));
+      labelled("Index of Refraction n = ", formatHundredths(c.deiktisdiathlasis.Value() / 100.0)));
   AutoRedraw(true);
   drawLens();
   sendRay(toSingle(c.fos.Left() / 2.0), toSingle(c.fos.Top() / 2.0));
@@ -176,7 +166,7 @@ void moniaktina::deiktisdiathlasis_Change() {
   justOpened_ = false;
   deiktis = controls_.deiktisdiathlasis.Value() / 100.0;
   // Not the spelling of Form_Load: no capital, no blank before the sign.
-  controls_.Text2.Text(text("Index of refraction n= ", formatHundredths(deiktis)));
+  controls_.Text2.Text(labelled("Index of refraction n= ", formatHundredths(deiktis)));
 }
 
 void moniaktina::Command1_Click() { moves_.leaveSingleRay(); }

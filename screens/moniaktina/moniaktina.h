@@ -48,7 +48,6 @@ class moniaktina : public Form {
  private:
   void connectHandlers();
   void resized();
-  void scaleToClientArea();
   void lensChanged();
   poreiaaktinon::SinglePair sourceCentre() const;
   // Clears and draws the ray from the source towards (xa, ya), with the line of its aim.
