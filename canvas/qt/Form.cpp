@@ -59,6 +59,7 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
           [=](const QMouseEvent* event) { report(&Form::MouseUp, event->button(), event); });
   connect(area_, &DrawingArea::canvasResized, this, &Form::Resized);
   connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Form::enterMenuBar);
+  connect(menuBar(), &QMenuBar::triggered, this, &Form::leaveMenuBar);
 
   clientSize(design.width, design.height);
 }
@@ -179,6 +180,10 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     showMenuToolTip(*event);
     return true;
   }
+  if (event->type() == QEvent::KeyRelease && watched == menuBar() &&
+      static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    leaveMenuBar();
+  }
   return QMainWindow::eventFilter(watched, event);
 }
 
@@ -197,9 +202,14 @@ void Form::showMenuToolTip(const QEvent& event) {
 }
 
 void Form::enterMenuBar() {
-  if (menuBar()->actions().isEmpty()) return;
+  if (menuBar()->actions().isEmpty() || menuBar()->hasFocus()) return;
+  beforeMenu_ = focusWidget();
   menuBar()->setFocus(Qt::MenuBarFocusReason);
   menuBar()->setActiveAction(menuBar()->actions().constFirst());
+}
+
+void Form::leaveMenuBar() {
+  if (menuBar()->hasFocus() && beforeMenu_) beforeMenu_->setFocus(Qt::MenuBarFocusReason);
 }
 
 }  // namespace lensbench

@@ -27,6 +27,8 @@ kelmo::kelmo(Moves& moves) : Form(design), moves_(moves), controls_(*this), work
   poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return workbench_; });
   setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
   describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
+  // Below this the controls would stand on each other.
+  setMinimumSize(640, 480);
   canvas().FontName("Symbol");
   canvas().FontSize(7.5);
   connectHandlers();

@@ -9,6 +9,7 @@
 #include "canvas/qt/CommandButton.h"
 #include "canvas/qt/Form.h"
 #include "canvas/qt/MenuEntry.h"
+#include "canvas/qt/ScrollBar.h"
 #include "tests/qt/Pictures.h"
 
 namespace lensbench {
@@ -273,6 +274,24 @@ TEST(Form, TheMenuBarIsReachedAndWorkedByKeyboard) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   QTest::qWait(20);
   EXPECT_EQ(clicked, 1);
+}
+
+TEST(Form, TheKeyboardReturnsFromTheMenuBarToWhereItWas) {
+  Form form(design);
+  MenuEntry entry(form, "entry", "END");
+  ScrollBar bar(form, "bar", Qt::Horizontal, {0, 0, 3000, 300});
+  ScrollBar other(form, "other", Qt::Horizontal, {0, 600, 3000, 300});
+  form.Show();
+  form.activateWindow();
+  QTest::qWait(50);
+  other.setFocus();
+  QTest::keyClick(&form, Qt::Key_F10);
+  ASSERT_TRUE(form.menuBar()->hasFocus());
+  QTest::keyClick(form.menuBar(), Qt::Key_Escape);
+  EXPECT_EQ(QApplication::focusWidget(), &other);
+  QTest::keyClick(&form, Qt::Key_F10);
+  QTest::keyClick(form.menuBar(), Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget(), &other);
 }
 
 }  // namespace
