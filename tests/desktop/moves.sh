@@ -21,6 +21,15 @@ move "$bench" $(at_bench "$bench" 300 200)
 shot after
 expect_same before after
 
+# The second visit has the scale of the first: the same aim gives the same picture.
+menu "$bench" 1
+ray=$(window "ΜΙΑ ΑΚΤΙΝΑ")
+drag "$ray" $(at_ray "$ray" -170 90) $(at_ray "$ray" -20 50)
+shot aimed_again "$ray"
+expect_same aimed aimed_again
+click "$ray" 324 24
+bench=$(window "SPHERICAL  LENSES")
+
 menu "$bench" 3
 choice=$(window "CHOOSE  LENS")
 window "SPHERICAL  LENSES" >/dev/null

@@ -1,7 +1,6 @@
 // Opening the single-ray screen: size, scale, first picture, and what lasts.
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTest>
 
 #include "optics/poreiaaktinon/Tracing.h"
 #include "screens/moniaktina/SingleRayPicture.h"
@@ -48,22 +47,6 @@ TEST_F(MoniaktinaDisplayTest, FillsTheDisplayWithTheOriginInTheMiddle) {
   const UserMapping map = screen.canvas().mapping();
   EXPECT_NEAR(map.xPixels, -map.yPixels, 1e-9);
   EXPECT_EQ(picture(), lensPicture(design));
-}
-
-// A window manager may shrink a hidden window before it maximises it again.
-TEST_F(MoniaktinaDisplayTest, AUnitStaysAsLongInXAsInYWhenItIsOpenedAgain) {
-  open();
-  screen.Hide();
-  screen.resize(500, 200);
-  screen.fitDisplay();
-  const UserMapping hidden = screen.canvas().mapping();
-  EXPECT_NEAR(hidden.xPixels, -hidden.yPixels, 1e-9);
-  screen.drawLens();
-  screen.Show();
-  QTest::qWait(600);
-  const UserMapping shown = screen.canvas().mapping();
-  EXPECT_NEAR(shown.xPixels, -shown.yPixels, 1e-9);
-  expectOriginInTheMiddle();
 }
 
 TEST_F(MoniaktinaDisplayTest, SourceKeepsItsPlaceOnTheScreen) {
