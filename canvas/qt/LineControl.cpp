@@ -31,6 +31,13 @@ void LineControl::Y2(double y) {
   change([&] { to_.y = y; });
 }
 
+void LineControl::between(Point from, Point to) {
+  change([&] {
+    from_ = from;
+    to_ = to;
+  });
+}
+
 void LineControl::BorderWidth(int pixels) {
   change([&] { width_ = std::max(1, pixels); });
 }

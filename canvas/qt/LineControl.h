@@ -25,6 +25,8 @@ class LineControl : public Overlay {
   void X2(double x);
   double Y2() const noexcept { return to_.y; }
   void Y2(double y);
+  // Both ends at once: from is (X1, Y1), to is (X2, Y2).
+  void between(Point from, Point to);
   // Pixels.
   int BorderWidth() const noexcept { return width_; }
   void BorderWidth(int pixels);

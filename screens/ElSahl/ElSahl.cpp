@@ -98,14 +98,8 @@ void ElSahl::resized() {
 void ElSahl::strokesAt(double x) { placeEdges({x, halfOpening, -halfOpening}); }
 
 void ElSahl::placeEdges(const Diafragma& diafragma) {
-  const auto place = [&](LineControl& edge, double outer, double inner) {
-    edge.X1(diafragma.X);
-    edge.X2(diafragma.X);
-    edge.Y1(outer);
-    edge.Y2(inner);
-  };
-  place(controls_.Line1, outerEnd, diafragma.upper);
-  place(controls_.Line2, -outerEnd, diafragma.lower);
+  controls_.Line1.between({diafragma.X, outerEnd}, {diafragma.X, diafragma.upper});
+  controls_.Line2.between({diafragma.X, -outerEnd}, {diafragma.X, diafragma.lower});
 }
 
 void ElSahl::setScale() { canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom); }

@@ -37,11 +37,11 @@ kelmo::kelmo(Moves& moves) : Form(design), moves_(moves), controls_(*this), work
 
 void kelmo::connectHandlers() {
   KelmoControls& c = controls_;
-  on(static_cast<Form&>(*this), &Form::MouseDown, *this, &kelmo::Form_MouseDown);
-  on(static_cast<Form&>(*this), &Form::MouseMove, *this, &kelmo::Form_MouseMove);
-  on(static_cast<Form&>(*this), &Form::MouseUp, *this, &kelmo::Form_MouseUp);
-  on(static_cast<Form&>(*this), &Form::Resized, *this, &kelmo::resized);
-  on(static_cast<Form&>(*this), &Form::CloseBox, *this, &kelmo::TELIOMA_Click);
+  on<Form>(*this, &Form::MouseDown, *this, &kelmo::Form_MouseDown);
+  on<Form>(*this, &Form::MouseMove, *this, &kelmo::Form_MouseMove);
+  on<Form>(*this, &Form::MouseUp, *this, &kelmo::Form_MouseUp);
+  on<Form>(*this, &Form::Resized, *this, &kelmo::resized);
+  on<Form>(*this, &Form::CloseBox, *this, &kelmo::TELIOMA_Click);
   on(c.aktina1, &ScrollBar::Change, *this, &kelmo::aktina1_Change);
   on(c.aktina2, &ScrollBar::Change, *this, &kelmo::aktina2_Change);
   on(c.kentrokykloy, &ScrollBar::Change, *this, &kelmo::kentrokykloy_Change);

@@ -32,14 +32,8 @@ Diafragma kelmo::diaphragmOfSliders() const {
 
 void kelmo::placeDiaphragm(const Diafragma& diafragma) {
   const poreiaaktinon::Edges edges = poreiaaktinon::edgesOf(canvas());
-  const auto place = [&](LineControl& blade, double outer, double inner) {
-    blade.X1(diafragma.X);
-    blade.X2(diafragma.X);
-    blade.Y1(outer);
-    blade.Y2(inner);
-  };
-  place(controls_.Line1, edges.upper, diafragma.yA);
-  place(controls_.Line2, edges.lower, diafragma.yB);
+  controls_.Line1.between({diafragma.X, edges.upper}, {diafragma.X, diafragma.yA});
+  controls_.Line2.between({diafragma.X, edges.lower}, {diafragma.X, diafragma.yB});
   controls_.Text3.Text(labelled("οπή διαφράγματος =", formatWhole(diafragma.yA - diafragma.yB)));
   controls_.Text4.Text(labelled("Θέση διαφράγματος", formatWhole(diafragma.X)));
 }

@@ -79,7 +79,6 @@ void kelmo::kymatachronika_Click() {
 }
 
 void kelmo::startWaves(Timer& own, Timer& other, RaySet set) {
-  clear();
   other.Interval(2000);
   drawWaveScene();
   animation_.start(std::move(set));

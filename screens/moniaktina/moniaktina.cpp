@@ -117,10 +117,7 @@ void moniaktina::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   c.fos.Left(X);
   c.fos.Top(Y);
   const SinglePair source = sourceCentre();
-  c.aim.X1(source.x);
-  c.aim.Y1(source.y);
-  c.aim.X2(X);
-  c.aim.Y2(Y);
+  c.aim.between({source.x, source.y}, {X, Y});
   c.aim.Visible(true);
 }
 
