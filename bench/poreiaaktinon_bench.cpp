@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "bench/Compare.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 

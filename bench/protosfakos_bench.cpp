@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "bench/Compare.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "tests/unit/protosfakos/FakeSahlScreen.h"
 
 namespace lensbench::protosfakos {

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "canvas/Variant.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
 
 namespace lensbench::poreiaaktinon {

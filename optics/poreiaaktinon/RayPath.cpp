@@ -1,7 +1,7 @@
 #include "optics/poreiaaktinon/RayPath.h"
 
 #include "canvas/RuntimeError.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
 
 namespace lensbench::poreiaaktinon {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Geometry.h"
 
 namespace lensbench::poreiaaktinon {

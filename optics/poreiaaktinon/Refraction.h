@@ -6,7 +6,7 @@
 
 #include "canvas/Canvas.h"
 #include "canvas/Variant.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
 #include "optics/poreiaaktinon/Workbench.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Intersection.h"
 
 namespace lensbench::poreiaaktinon {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

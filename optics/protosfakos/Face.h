@@ -4,7 +4,7 @@
 #include <optional>
 #include <variant>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 
 namespace lensbench::protosfakos {
 

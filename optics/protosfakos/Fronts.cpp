@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/SahlScreen.h"
 #include "optics/protosfakos/SahlState.h"

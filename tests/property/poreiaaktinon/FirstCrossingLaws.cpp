@@ -2,7 +2,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/SurfaceSearch.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"

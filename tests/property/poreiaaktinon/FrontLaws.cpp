@@ -5,7 +5,7 @@
 #include <numbers>
 #include <vector>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "optics/poreiaaktinon/Wavefront.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Refraction.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"

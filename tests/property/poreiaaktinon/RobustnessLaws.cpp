@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <numbers>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "optics/poreiaaktinon/Faces.h"

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <gtest/gtest.h>
 
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Numbers.h"

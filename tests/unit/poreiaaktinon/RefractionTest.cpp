@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
-#include "optics/Vector.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Refraction.h"
 #include "tests/support/ErrorNumber.h"
 
