@@ -1,6 +1,4 @@
-#include "canvas/qt/TickSource.h"
-
-#include <utility>
+#include "canvas/qt/Clock.h"
 
 #include <QTimer>
 
@@ -20,17 +18,8 @@ class QtTickSource : public TickSource {
   QTimer timer_;
 };
 
-TickSourceMaker& maker() {
-  static TickSourceMaker current;
-  return current;
-}
-
 }  // namespace
 
-std::unique_ptr<TickSource> makeTickSource() {
-  return maker() ? maker()() : std::make_unique<QtTickSource>();
-}
-
-void useTickSources(TickSourceMaker replacement) { maker() = std::move(replacement); }
+std::unique_ptr<TickSource> QtClock::tickSource() { return std::make_unique<QtTickSource>(); }
 
 }  // namespace lensbench
