@@ -129,7 +129,7 @@ template <class Scene>
 void measure(benchmark::State& run, bool amfikyrtos, const std::vector<Start>& starts,
              Scene scene) {
   SahlBench bench(n);
-  RecordingCanvas other;
+  Recording other;
   compare(
       run,
       [&] {

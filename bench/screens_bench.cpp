@@ -8,6 +8,7 @@
 
 #include "app/Screens.h"
 #include "bench/Compare.h"
+#include "canvas/Recording.h"
 #include "canvas/qt/RasterCanvas.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
@@ -15,7 +16,6 @@
 #include "screens/kelmo/Scene.h"
 #include "screens/kelmo/kelmo.h"
 #include "tests/screens/support/FakeDialogs.h"
-#include "tests/support/RecordingCanvas.h"
 #include "tests/unit/protosfakos/FakeSahlScreen.h"
 
 namespace lensbench {
@@ -39,7 +39,7 @@ class RecordedWorkbench : public poreiaaktinon::Workbench {
         [&screen = screen_]() -> poreiaaktinon::Workbench& { return screen.workbench(); });
   }
 
-  RecordingCanvas& canvas() override { return canvas_; }
+  Recording& canvas() override { return canvas_; }
   poreiaaktinon::Diafragma diafragma() const override { return screen_.workbench().diafragma(); }
   poreiaaktinon::Fakos fakos() const override { return screen_.workbench().fakos(); }
   double deiktisdiathlasis() const override { return screen_.workbench().deiktisdiathlasis(); }
@@ -49,44 +49,8 @@ class RecordedWorkbench : public poreiaaktinon::Workbench {
 
  private:
   kelmo& screen_;
-  RecordingCanvas canvas_;
+  Recording canvas_;
 };
-
-void play(const std::vector<Operation>& operations, Canvas& canvas) {
-  for (const Operation& op : operations) {
-    canvas.DrawWidth(op.width);
-    canvas.DrawStyle(op.style);
-    canvas.FillStyle(op.fill ? FillStyle::Solid : FillStyle::Transparent);
-    if (op.fill) canvas.FillColor(*op.fill);
-    switch (op.kind) {
-      case Operation::Kind::Cls:
-        canvas.Cls();
-        break;
-      case Operation::Kind::Line:
-        canvas.Line(op.x1, op.y1, op.x2, op.y2, op.colour);
-        break;
-      case Operation::Kind::Circle:
-        canvas.Circle(op.x1, op.y1, op.radius, op.colour);
-        break;
-      case Operation::Kind::Arc:
-        canvas.Circle(op.x1, op.y1, op.radius, op.colour, op.x2, op.y2);
-        break;
-      case Operation::Kind::PSet:
-        canvas.PSet(op.x1, op.y1, op.colour);
-        break;
-      case Operation::Kind::Print:
-        canvas.CurrentX(op.x1);
-        canvas.CurrentY(op.y1);
-        canvas.Print(op.text);
-        break;
-      case Operation::Kind::FloodFill:
-        canvas.FloodFill(static_cast<int>(op.x1), static_cast<int>(op.y1), op.colour);
-        break;
-      case Operation::Kind::Scale:
-        break;
-    }
-  }
-}
 
 // The workbench on a full display with its diaphragm wide open.
 struct Desk {
@@ -115,18 +79,18 @@ struct Desk {
   }
 
   // What a scene and the given rays draw, as a list.
-  std::vector<Operation> recorded(const std::vector<poreiaaktinon::RayPath>& rays) {
+  Recording recorded(const std::vector<poreiaaktinon::RayPath>& rays) {
     RecordedWorkbench workbench(bench);
     workbench.canvas().Cls();
     drawLensScene(workbench);
     poreiaaktinon::drawPaths(workbench.canvas(), rays, workbench.provoli());
-    return workbench.canvas().operations();
+    return workbench.canvas();
   }
 };
 
 void scrollBarStep(benchmark::State& state) {
   Desk desk;
-  const auto list = desk.recorded({});
+  const Recording list = desk.recorded({});
   int radius = 100;
   compare(
       state,
@@ -135,7 +99,7 @@ void scrollBarStep(benchmark::State& state) {
         desk.bench.controls().aktina1.Value(radius);
         desk.show();
       },
-      [&] { play(list, desk.bare); });
+      [&] { list.playOn(desk.bare); });
 }
 
 // A fan from an off-axis source; range(0) desmi1, range(1) the multiplier, range(2) waves too.
@@ -148,7 +112,7 @@ void fan(benchmark::State& state) {
   desk.bench.Form_MouseDown(1, 1, -250, 40);
   const auto rays = poreiaaktinon::fanPaths(poreiaaktinon::setupOf(desk.bench.workbench()),
                                             {-250, 40}, desk.bench.vima.value());
-  const auto list = desk.recorded(rays);
+  const Recording list = desk.recorded(rays);
   state.counters["rays"] = static_cast<double>(rays.size());
   compare(
       state,
@@ -156,7 +120,7 @@ void fan(benchmark::State& state) {
         desk.bench.Form_MouseDown(1, 1, -250, 40);
         desk.show();
       },
-      [&] { play(list, desk.bare); });
+      [&] { list.playOn(desk.bare); });
 }
 
 // A bundle of 151 rays with waves at an angle of range(0) degrees.
@@ -167,7 +131,7 @@ void bundle(benchmark::State& state) {
   desk.bench.controls().Check1.Value(true);
   const auto rays =
       poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(desk.bench.workbench()), angle, 150);
-  const auto list = desk.recorded(rays);
+  const Recording list = desk.recorded(rays);
   state.counters["rays"] = static_cast<double>(rays.size());
   compare(
       state,
@@ -175,7 +139,7 @@ void bundle(benchmark::State& state) {
         desk.bench.drawBundle(angle);
         desk.show();
       },
-      [&] { play(list, desk.bare); });
+      [&] { list.playOn(desk.bare); });
 }
 
 // A tick of the plane waves of 151 rays; the reference draws the two fronts and the scene once.
@@ -189,7 +153,7 @@ void tick(benchmark::State& state) {
   WaveAnimation animation;
   animation.start(desk.bench.animation().set());
   animation.draw(workbench, 160);
-  const auto list = workbench.canvas().operations();
+  const Recording list = workbench.canvas();
   compare(
       state,
       [&] {
@@ -197,7 +161,7 @@ void tick(benchmark::State& state) {
         desk.bench.Timer2_Timer();
         desk.show();
       },
-      [&] { play(list, desk.bare); });
+      [&] { list.playOn(desk.bare); });
 }
 
 // The Ibn Sahl screen with one of its lenses at n = 1.5, opened as the menu opens it.
@@ -225,27 +189,27 @@ struct SahlDesk {
 
   // What the routines of a scene draw on a clear screen, as a list.
   template <typename Scene>
-  std::vector<Operation> recorded(Scene scene) {
+  Recording recorded(Scene scene) {
     protosfakos::FakeSahlScreen recorder;
     recorder.opening = sahl.view().diafragma();
     protosfakos::connectSahlScreen([&recorder]() -> protosfakos::SahlScreen& { return recorder; });
     recorder.recording.Cls();
     scene();
     protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return sahl.view(); });
-    return recorder.recording.operations();
+    return recorder.recording;
   }
 
   template <typename Handler>
-  void measure(benchmark::State& state, const std::vector<Operation>& list, Handler handler) {
+  void measure(benchmark::State& state, const Recording& list, Handler handler) {
     compare(
         state,
         [&] {
           handler();
           sahl.drawingArea()->repaint();
         },
-        [&] { play(list, bare); });
+        [&] { list.playOn(bare); });
     if (bare.image() != sahl.canvas().image()) state.SkipWithError("the pictures differ");
-    state.counters["operations"] = static_cast<double>(list.size());
+    state.counters["operations"] = static_cast<double>(list.operations().size());
   }
 };
 
@@ -254,7 +218,7 @@ void sahlFan(benchmark::State& state, bool amfikyrtos) {
   SahlDesk desk(amfikyrtos);
   const auto routine =
       amfikyrtos ? protosfakos::sxediasiamfikyrtou : protosfakos::sxediasiepipedokyrtou;
-  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 108, 25); });
+  const Recording list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 108, 25); });
   desk.measure(state, list, [&] { desk.sahl.Form_MouseDown(1, 0, 108, 25); });
 }
 
@@ -264,7 +228,7 @@ void sahlBundle(benchmark::State& state, bool amfikyrtos) {
   dialogs.answer = "0";
   SahlDesk desk(amfikyrtos);
   const auto routine = amfikyrtos ? protosfakos::desmiamfikyrtou : protosfakos::desmiepipedokyrtou;
-  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 0); });
+  const Recording list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 0); });
   desk.measure(state, list, [&] { desk.sahl.parallilidesmifotos_Click(); });
 }
 

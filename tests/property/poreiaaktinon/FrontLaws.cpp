@@ -5,13 +5,13 @@
 #include <numbers>
 #include <vector>
 
+#include "canvas/Recording.h"
 #include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "optics/poreiaaktinon/Wavefront.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -49,7 +49,7 @@ TEST(FrontLaws, PointAtAnOpticalPathAgreesWithASecondTracer) {
 
 TEST(FrontLaws, DrawnDotsOfAFanStandAtWholeTensFromTheSource) {
   RandomBench random(22);
-  RecordingCanvas canvas(768.0, 432.0);
+  Recording canvas(768.0, 432.0);
   canvas.Scale(-384.0, 216.0, 384.0, -216.0);
   int dots = 0;
   for (int fan = 0; fan < 300; ++fan) {

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/DrawingArea.h"
 #include "optics/poreiaaktinon/Faces.h"
 #include "optics/poreiaaktinon/Geometry.h"
 #include "optics/poreiaaktinon/Intersection.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -66,7 +66,7 @@ RC_GTEST_PROP(GeometryLaws, ALineMeetsACircleOnBoth, ()) {
 }
 
 RC_GTEST_PROP(GeometryLaws, ARayFromWithinLeavesOnTheFrame, ()) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.Scale(-400.0, 200.0, 400.0, -200.0);
   const double x0 = *rc::gen::inRange(-399, 400);
   const double y0 = *rc::gen::inRange(-199, 200);

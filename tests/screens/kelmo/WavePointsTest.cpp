@@ -5,12 +5,12 @@
 #include <map>
 #include <vector>
 
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/Bundles.h"
 #include "optics/poreiaaktinon/Numbers.h"
 #include "optics/poreiaaktinon/Tracing.h"
 #include "tests/screens/kelmo/KelmoTest.h"
 #include "tests/screens/kelmo/SnellTracer.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench {
 namespace {
@@ -36,7 +36,7 @@ class WavePointsTest : public KelmoTest {
   // What the screen draws for each ray of its set, beside the same ray by school geometry.
   std::vector<Wave> waves() {
     const UserMapping m = screen.canvas().mapping();
-    RecordingCanvas recorder(usualSize.width(), usualSize.height());
+    Recording recorder(usualSize.width(), usualSize.height());
     recorder.Scale(m.left, m.top, -m.left, -m.top);
     std::vector<Wave> all;
     for (const auto& path : screen.animation().set().rays) {
@@ -195,7 +195,7 @@ TEST_F(WavePointsTest, TheLargestFanHasTrueFronts) {
   const Point source{-260.0, 70.0};
   const auto paths = poreiaaktinon::fanPaths(setup, source, screen.vima.value());
   ASSERT_EQ(paths.size(), 3437U);
-  RecordingCanvas recorder(usualSize.width(), usualSize.height());
+  Recording recorder(usualSize.width(), usualSize.height());
   recorder.Scale(setup.edges.left, setup.edges.upper, setup.edges.right, setup.edges.lower);
   std::vector<Wave> all;
   for (std::size_t k = 0; k < paths.size(); ++k) {

@@ -18,7 +18,7 @@ using Kind = Operation::Kind;
 // Walks through recorded operations, comparing each with what is expected next.
 class Reader {
  public:
-  explicit Reader(const RecordingCanvas& canvas) : operations_(canvas.operations()) {}
+  explicit Reader(const Recording& canvas) : operations_(canvas.operations()) {}
   ~Reader() { EXPECT_EQ(next_, operations_.size()) << "operations left over"; }
   Reader(const Reader&) = delete;
   Reader& operator=(const Reader&) = delete;
@@ -70,7 +70,7 @@ class Reader {
 };
 
 TEST(LensPicture, LensAloneAtTheDesignValues) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 1.5);
   const double h = std::sqrt(90.0 * 90.0 - 40.5 * 40.5);
   EXPECT_NEAR(h, 80.37, 0.005);
@@ -90,14 +90,14 @@ TEST(LensPicture, LensAloneAtTheDesignValues) {
 }
 
 TEST(LensPicture, FirstCircleStandsWhereItsCentreIs) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 7, 100, 1.5);
   EXPECT_EQ(canvas.operations(Kind::Arc)[0].x1, 7.0);
   EXPECT_EQ(canvas.operations(Kind::Arc)[1].x1, 100.0);
 }
 
 TEST(LensPicture, UnderTheRayEverythingIsDrawnTwiceAndTheRimMarkedOnce) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensUnderRay(canvas, 90, 100, 100, 1.5);
   const double h = std::sqrt(90.0 * 90.0 - 40.5 * 40.5);
   const double f = 1.0 / ((1.0 / 90.0 + 1.0 / 100.0) * 0.5);
@@ -120,7 +120,7 @@ TEST(LensPicture, UnderTheRayEverythingIsDrawnTwiceAndTheRimMarkedOnce) {
 }
 
 TEST(LensPicture, TopAndBottomLinesHaveTheForeColor) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(1, 2, 3));
   drawLensUnderRay(canvas, 90, 100, 100, 1.5);
   for (const Operation& line : canvas.operations(Kind::Line)) {
@@ -129,7 +129,7 @@ TEST(LensPicture, TopAndBottomLinesHaveTheForeColor) {
 }
 
 TEST(LensPicture, CirclesApartHaveFacesOfNoLength) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 50, 60, 0, 300, 1.5);
   const double f = 1.0 / ((1.0 / 50.0 + 1.0 / 60.0) * 0.5);
   Reader next(canvas);
@@ -173,7 +173,7 @@ TEST(LensPicture, ChordThroughACentreMakesAHalfCircle) {
 }
 
 TEST(LensPicture, IndexOfOnePutsBothMarksOnTheChord) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 1.0);
   const auto marks = canvas.operations(Kind::Circle);
   ASSERT_EQ(marks.size(), 2u);
@@ -182,7 +182,7 @@ TEST(LensPicture, IndexOfOnePutsBothMarksOnTheChord) {
 }
 
 TEST(LensPicture, IndexBelowOneSwapsTheMarks) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 0.5);
   const double f = 1.0 / ((1.0 / 90.0 + 1.0 / 100.0) * -0.5);
   const auto marks = canvas.operations(Kind::Circle);
@@ -203,14 +203,14 @@ void expectDivisionByZeroInWords(const std::function<void()>& work) {
 }
 
 TEST(LensPicture, RadiusOfZeroIsADivisionByZero) {
-  RecordingCanvas canvas;
+  Recording canvas;
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 90, 0, 0, 100, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 0, 90, 0, 100, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensUnderRay(canvas, 90, 0, 100, 1.5); });
 }
 
 TEST(LensPicture, OneAndTheSameCircleIsADivisionByZero) {
-  RecordingCanvas canvas;
+  Recording canvas;
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 90, 90, 0, 0, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensUnderRay(canvas, 90, 90, 0, 1.5); });
 }

@@ -4,11 +4,11 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+#include "canvas/Recording.h"
 #include "canvas/qt/RasterCanvas.h"
 #include "optics/poreiaaktinon/Workbench.h"
 #include "screens/moniaktina/moniaktina.h"
 #include "tests/screens/support/FakeMoves.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench {
 
@@ -31,7 +31,7 @@ class FakeWorkbench : public poreiaaktinon::Workbench {
   poreiaaktinon::Diafragma opening{0.0, 1000.0, -1000.0};
 
  private:
-  RecordingCanvas canvas_;
+  Recording canvas_;
 };
 
 class MoniaktinaTest : public ::testing::Test {

@@ -1,8 +1,8 @@
 // Fractions of the drawing area and the point where a ray leaves it.
 #include <gtest/gtest.h>
 
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/DrawingArea.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -21,7 +21,7 @@ class DrawingArea : public testing::Test {
     EXPECT_NEAR(q.y, y, 1e-4);
   }
 
-  RecordingCanvas canvas;
+  Recording canvas;
 };
 
 TEST_F(DrawingArea, FractionsRunFromTheLowerLeftCorner) {
@@ -77,7 +77,7 @@ TEST_F(DrawingArea, RayThatLeftTheAreaBehindStaysAtItsStart) {
 }
 
 TEST_F(DrawingArea, LowerEdgeIsTheSmallerYOnAnUnscaledCanvas) {
-  const RecordingCanvas twips(100.0, 50.0);
+  const Recording twips(100.0, 50.0);
   const Edges edges = edgesOf(twips);
   EXPECT_EQ(edges.lower, 0.0);
   EXPECT_EQ(edges.upper, 750.0);

@@ -1,9 +1,9 @@
 // A workbench of plain values on a recording canvas, connected while it lives.
 #pragma once
 
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/RayPath.h"
 #include "optics/poreiaaktinon/Workbench.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::poreiaaktinon {
 
@@ -27,7 +27,7 @@ class FakeWorkbench : public Workbench {
   double vima() const override { return step; }
   Provoli provoli() const override { return shown; }
 
-  RecordingCanvas surface{800.0, 400.0};
+  Recording surface{800.0, 400.0};
   Diafragma opening{0.0, 1000.0, -1000.0};
   Fakos lens{-50.0, 100.0, 20.0, 90.0};
   double n = 1.5;

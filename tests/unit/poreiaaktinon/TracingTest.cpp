@@ -149,7 +149,7 @@ TEST(Bentaliaaktinon, DrawsWavesOnlyWhenOnlyWavesAreShown) {
 
 TEST(Poreiamiasaktinas, DrawsEveryPieceInRedOnTheGivenCanvas) {
   FakeWorkbench bench;
-  RecordingCanvas own(800.0, 400.0);
+  Recording own(800.0, 400.0);
   own.Scale(-300.0, 150.0, 300.0, -150.0);
   own.forget();
   own.DrawWidth(5);
@@ -164,7 +164,7 @@ TEST(Poreiamiasaktinas, DrawsEveryPieceInRedOnTheGivenCanvas) {
 TEST(Poreiamiasaktinas, IsStoppedByTheDiaphragmOfTheWorkbench) {
   FakeWorkbench bench;
   bench.opening = {-50.0, 10.0, -10.0};
-  RecordingCanvas own(800.0, 400.0);
+  Recording own(800.0, 400.0);
   own.Scale(-300.0, 150.0, 300.0, -150.0);
   own.forget();
   poreiamiasaktinas(own, -100, 40, 1, 0, 0, 100, 90, 100, 1.5);

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "canvas/Recording.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/SahlScreen.h"
 #include "optics/protosfakos/SahlState.h"
 #include "optics/protosfakos/Scenes.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::protosfakos {
 
@@ -21,7 +21,7 @@ class FakeSahlScreen : public SahlScreen {
   bool onlyWaves() const override { return waves; }
   void message(std::string_view utf8) override { messages.emplace_back(utf8); }
 
-  RecordingCanvas recording{600.0, 600.0};
+  Recording recording{600.0, 600.0};
   // Wide open, so that a test that is not about the diaphragm never meets it.
   Diafragma opening{130.0, 1e9, -1e9};
   bool rays = false;

@@ -115,7 +115,7 @@ TEST(Fronts, JoinNeighbouringRaysFrontByFront) {
     kymatadesmis(100, k, k);
   }
   state().plithosaktinon = 3;
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(9, 8, 7));
   drawFronts(canvas);
   const auto& ops = canvas.operations();
@@ -134,7 +134,7 @@ TEST(Fronts, JoinNeighbouringRaysFrontByFront) {
 
 TEST(Fronts, FewerThanTwoRaysHaveNone) {
   const SahlBench bench(2.0);
-  RecordingCanvas canvas;
+  Recording canvas;
   for (const Variant& rays : {Variant(), Variant(0), Variant(1)}) {
     state().plithosaktinon = rays;
     drawFronts(canvas, RGB(0, 0, 255));

@@ -56,7 +56,7 @@ constexpr std::size_t faceLines = 302;  // 151 points, upper and lower
 
 TEST(Outline, PlanoConvexIsTheCurveThenThePlane) {
   const SahlBench bench(1.5);
-  RecordingCanvas canvas;
+  Recording canvas;
   drawOutline(canvas, planoConvex(bench.lens.a, bench.lens.b, 1.5));
   const auto& ops = canvas.operations();
   ASSERT_EQ(ops.size(), faceLines + 1);
@@ -79,7 +79,7 @@ TEST(Outline, PlanoConvexIsTheCurveThenThePlane) {
 
 TEST(Outline, BiconvexHasTheMirroredCurveWithItsStroke) {
   const SahlBench bench(1.5);
-  RecordingCanvas canvas;
+  Recording canvas;
   drawOutline(canvas, biconvex(bench.lens.a, bench.lens.b, 1.5));
   const auto& ops = canvas.operations();
   ASSERT_EQ(ops.size(), 2 * faceLines);
@@ -93,7 +93,7 @@ TEST(Outline, BiconvexHasTheMirroredCurveWithItsStroke) {
 }
 
 TEST(Outline, IndexOneLiesOnTheAxis) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawOutline(canvas, planoConvex(12, 0, 1));
   ASSERT_EQ(canvas.operations().size(), faceLines + 1);
   for (const Operation& op : canvas.operations()) {
@@ -104,7 +104,7 @@ TEST(Outline, IndexOneLiesOnTheAxis) {
 
 TEST(IdealBundle, NineRaysMeetInTheFarFocus) {
   const double b = deriveLens(1.5)->b;
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(1, 2, 3));
   drawIdealBundle(canvas, planoConvex(12, b, 1.5));
   const auto& ops = canvas.operations();

@@ -1,4 +1,4 @@
-// A canvas that keeps the drawing operations it was given, in order, for tests.
+// A canvas that keeps the drawing operations it was given, in order, and plays them on any other.
 #pragma once
 
 #include <iosfwd>
@@ -21,21 +21,26 @@ struct Operation {
   int width = 1;
   DrawStyle style = DrawStyle::Solid;
   std::optional<Rgb> fill;  // of a closed circle or a flood fill
+  Body body;                // of a flood fill that has been told what it fills
   std::string text;
   Font font;
 };
 std::ostream& operator<<(std::ostream& out, const Operation& operation);
 
-class RecordingCanvas : public Canvas {
+class Recording final : public Canvas {
  public:
   // Client area in logical pixels.
-  explicit RecordingCanvas(double width = 1200.0, double height = 600.0)
+  explicit Recording(double width = 1200.0, double height = 600.0)
       : width_(width), height_(height) {}
 
   const std::vector<Operation>& operations() const { return operations_; }
   // The operations of one kind, in order.
   std::vector<Operation> operations(Operation::Kind kind) const;
   void forget() { operations_.clear(); }
+  // Repeats the operations on another canvas, whose client area may have another size. A picture in
+  // twips stays at the upper left, one with a scale spreads over the new area. The other canvas is
+  // left with the properties of the last operations.
+  void playOn(Canvas& canvas) const;
 
  protected:
   double clientWidth() const override { return width_; }
@@ -47,6 +52,7 @@ class RecordingCanvas : public Canvas {
   void paintDot(Point centre, const Pen& pen) override;
   double paintText(Point upperLeft, std::string_view text, const Font& font, Rgb colour) override;
   bool fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) override;
+  bool fillBody(int pixelX, int pixelY, Rgb border, Rgb fill, const Body& body) override;
   void scaleChanged() override;
 
  private:
