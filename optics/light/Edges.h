@@ -16,4 +16,19 @@ struct Edges {
 };
 Edges edgesOf(const Canvas& canvas);
 
+// The edges moved out all around by a distance, or in by a negative one.
+Edges movedOut(const Edges& edges, double distance);
+
+// Where a ray crosses the edges that it heads for; the start itself when the area lies behind the
+// ray. The direction may be of any length but 0.
+Point leavingPoint(const Edges& edges, Point start, Point direction);
+
+// The stretch of a ray from start along a direction, between multiples from and to of that
+// direction, that lies within the edges; empty when from > to.
+struct Stretch {
+  double from = 0.0;
+  double to = 0.0;
+};
+Stretch visibleStretch(const Edges& edges, Point start, Point direction, Stretch whole);
+
 }  // namespace lensbench::light
