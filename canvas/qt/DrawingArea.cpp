@@ -1,56 +1,79 @@
 #include "canvas/qt/DrawingArea.h"
 
-#include <cmath>
-
+#include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimer>
+#include <QScopedValueRollback>
 
 #include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Overlay.h"
 
 namespace lensbench {
+namespace {
+
+const auto frameEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+}  // namespace
 
 DrawingArea::DrawingArea(QWidget* parent)
     : QWidget(parent), canvas_(size(), devicePixelRatioF(), oversamplingFor(devicePixelRatioF())) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  connect(&canvas_, &RasterCanvas::pictureChanged, this, &DrawingArea::showSoon);
+  connect(&canvas_, &RasterCanvas::pictureChanged, this, &DrawingArea::wantFrame);
   connect(&canvas_, &RasterCanvas::scaleReplaced, this, &DrawingArea::keepOverlaysInPlace);
-  showSoon();
+  wantFrame();
 }
 
 void DrawingArea::fitCanvas() {
   if (devicePixelRatioF() != canvas_.devicePixelRatio()) {
     canvas_.setOversampling(oversamplingFor(devicePixelRatioF()));
   }
-  const QSize old = canvas_.size();
-  canvas_.resize(size(), devicePixelRatioF());
-  if (canvas_.size() != old) emit canvasResized();
+  const QSize size = canvas_.size();
+  const double ratio = canvas_.devicePixelRatio();
+  canvas_.resize(this->size(), devicePixelRatioF());
+  if (canvas_.size() != size || canvas_.devicePixelRatio() != ratio) emit canvasResized();
 }
 
-void DrawingArea::releaseSizeSoon() {
-  constexpr int moment = 400;  // ms, several times what a window manager needs
-  QTimer::singleShot(moment, this, [this] {
-    if (!isVisible()) return;
-    sizeHeld_ = false;
-    fitCanvas();
-  });
+void DrawingArea::stale() {
+  stale_ = true;
+  wantFrame();
 }
 
-void DrawingArea::resizeEvent(QResizeEvent*) {
-  if (!sizeHeld_) fitCanvas();
+const QImage& DrawingArea::image() {
+  bringUpToDate();
+  return canvas_.image();
 }
 
-// What one handler draws is shown together, when it has returned.
-void DrawingArea::showSoon() {
-  if (showPending_) return;
-  showPending_ = true;
-  QMetaObject::invokeMethod(this, &DrawingArea::refresh, Qt::QueuedConnection);
+void DrawingArea::bringUpToDate() {
+  if (!stale_ || drawing_ || !draw_) return;
+  const QScopedValueRollback busy(drawing_, true);
+  // Until it has been drawn to its end it stays stale.
+  QScopedValueRollback drawn(stale_, false);
+  draw_();
+  drawn.commit();
 }
 
-void DrawingArea::refresh() {
-  showPending_ = false;
+// Behind all events that have been posted, so that what they change is drawn and shown together.
+void DrawingArea::wantFrame() {
+  if (frameWanted_) return;
+  frameWanted_ = true;
+  QCoreApplication::postEvent(this, new QEvent(frameEvent), Qt::LowEventPriority);
+}
+
+bool DrawingArea::event(QEvent* event) {
+  if (event->type() != frameEvent) return QWidget::event(event);
+  frameWanted_ = false;
+  // What nobody can see is drawn when it is seen again.
+  if (isVisible() && !window()->isMinimized()) {
+    frame();
+  } else {
+    update();
+  }
+  return true;
+}
+
+void DrawingArea::frame() {
+  bringUpToDate();
   const QRect dirty = canvas_.takeDirty();
   if (dirty.isEmpty()) return;
   const int k = canvas_.oversampling();
@@ -71,7 +94,7 @@ void DrawingArea::refresh() {
 
 void DrawingArea::paintEvent(QPaintEvent* event) {
   if (canvas_.devicePixelRatio() != devicePixelRatioF()) fitCanvas();
-  refresh();
+  frame();
   const QImage& picture = canvas_.oversampling() > 1 ? display_ : canvas_.image();
   const double ratio = canvas_.devicePixelRatio();
   QPainter painter(this);

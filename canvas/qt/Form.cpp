@@ -69,6 +69,8 @@ Form::~Form() = default;
 RasterCanvas& Form::canvas() noexcept { return area_->canvas(); }
 const RasterCanvas& Form::canvas() const noexcept { return area_->canvas(); }
 QWidget* Form::drawingArea() const noexcept { return area_; }
+DrawingArea& Form::area() noexcept { return *area_; }
+const QImage& Form::image() { return area_->image(); }
 
 void Form::Show() {
   show();
@@ -151,17 +153,11 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  area_->releaseSizeSoon();
   if (!shown_) {
     shown_ = true;
     qApp->installEventFilter(this);
   }
   fitFrame();
-}
-
-void Form::hideEvent(QHideEvent* event) {
-  if (isMaximized()) area_->holdSize();
-  QMainWindow::hideEvent(event);
 }
 
 void Form::resizeEvent(QResizeEvent* event) {

@@ -43,6 +43,9 @@ class Form : public QMainWindow {
   const RasterCanvas& canvas() const noexcept;
   // The parent of the controls; its size is the client area.
   QWidget* drawingArea() const noexcept;
+  DrawingArea& area() noexcept;
+  // The picture up to date, in pixels of the canvas.
+  const QImage& image();
 
   // Makes the form visible and brings it to the front.
   void Show();
@@ -82,7 +85,7 @@ class Form : public QMainWindow {
   void MouseDown(int Button, int Shift, double X, double Y);
   void MouseMove(int Button, int Shift, double X, double Y);
   void MouseUp(int Button, int Shift, double X, double Y);
-  // The client area has a new size, and the canvas with it.
+  // The client area has a new size or pixel ratio, and the canvas with it.
   void Resized();
   // The window frame was asked to close the form, which it does not do by itself.
   void CloseBox();
@@ -90,7 +93,6 @@ class Form : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

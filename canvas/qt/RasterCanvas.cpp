@@ -108,6 +108,7 @@ void RasterCanvas::resample(double oldPixelsPerPixel) {
   QPainter(&image_).drawImage(0, 0, old);
   dirty_ = {};
   markDirty(image_.rect());
+  emit pictureLost();
 }
 
 QRect RasterCanvas::takeDirty() {
@@ -306,6 +307,7 @@ void RasterCanvas::scaleChanged() {
   const UserMapping old = mapping_;
   mapping_ = currentMapping();
   emit scaleReplaced(old);
+  if (mapping_ != old) emit pictureLost();
 }
 
 }  // namespace lensbench

@@ -21,6 +21,7 @@ struct UserMapping {
 
   Point toPixel(Point user) const { return {(user.x - left) * xPixels, (user.y - top) * yPixels}; }
   Point toUser(Point pixel) const { return {left + pixel.x / xPixels, top + pixel.y / yPixels}; }
+  friend bool operator==(const UserMapping&, const UserMapping&) = default;
 };
 
 // k for a display: two image pixels a device pixel, one where device pixels are fine enough.
@@ -55,6 +56,8 @@ class RasterCanvas final : public QObject, public Canvas {
   // Something has changed after nothing had.
   void pictureChanged();
   void scaleReplaced(const lensbench::UserMapping& old);
+  // Size, pixel ratio, oversampling or scale are new: the pixels are no longer what was drawn.
+  void pictureLost();
 
  protected:
   double clientWidth() const override { return logical_.width(); }
