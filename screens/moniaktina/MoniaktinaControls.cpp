@@ -6,6 +6,8 @@
 namespace lensbench {
 namespace {
 
+constexpr Rgb sourceColour = RGB(255, 128, 0);
+
 void widenFor(TextBox& box, const char* widestText) {
   const int width = box.widthForText(QString::fromUtf8(widestText));
   box.resize(std::max(box.width(), width), box.height());
@@ -24,12 +26,28 @@ MoniaktinaControls::MoniaktinaControls(Form& form)
       Text7(form, "Text7", {2520, 1080, 3135, 375}),
       kentrokykloy(form, "kentrokykloy", Qt::Horizontal, {-120, 1080, 2655, 375}),
       aim(form, "aim", {0, 0, 0, 0}),
-      fos(form, "fos", {1080, 2160, 135, 135}) {
+      fos(form, "fos", {1080, 2160, 135, 135}),
+      sourceMark(form, "sourceMark", sourceColour) {
   setRanges();
   setLooks();
   makeRoomForTexts();
   describeAll();
   setTabOrder();
+}
+
+Point MoniaktinaControls::source() const {
+  return {fos.Left() + fos.Width() / 2.0, fos.Top() - fos.Height() / 2.0};
+}
+
+Point MoniaktinaControls::singleSource() const {
+  const Point p = source();
+  return {static_cast<float>(p.x), static_cast<float>(p.y)};
+}
+
+void MoniaktinaControls::placeSource(Point source) {
+  fos.Left(source.x - fos.Width() / 2.0);
+  fos.Top(source.y + fos.Height() / 2.0);
+  sourceMark.follow(source);
 }
 
 void MoniaktinaControls::setRanges() {
@@ -49,7 +67,7 @@ void MoniaktinaControls::setLooks() {
   Command1.Caption("Πίσω");
   fos.BorderColor(RGB(255, 0, 0));
   fos.FillStyle(FillStyle::Solid);
-  fos.FillColor(RGB(255, 128, 0));
+  fos.FillColor(sourceColour);
   aim.BorderStyle(BorderStyle::Dotted);
   aim.Visible(false);
 }

@@ -4,17 +4,19 @@
 
 #include "canvas/Variant.h"
 #include "canvas/qt/Form.h"
-#include "optics/poreiaaktinon/Geometry.h"
-#include "screens/Moves.h"
+#include "optics/poreiaaktinon/SingleRayPicture.h"
+#include "screens/Context.h"
+#include "screens/Easel.h"
 #include "screens/moniaktina/MoniaktinaControls.h"
 
 namespace lensbench {
 
 class moniaktina : public Form {
  public:
-  explicit moniaktina(Moves& moves);
+  explicit moniaktina(const Context& context);
 
   MoniaktinaControls& controls() { return controls_; }
+  const poreiaaktinon::single::Shown& shown() const { return easel_.shown(); }
 
   // Fills the display and puts the origin in the middle of the client area, which is 1200 units
   // wide and high together; a unit is as long in x as in y.
@@ -45,18 +47,21 @@ class moniaktina : public Form {
   Variant kentro2;   // centre of circle 2 on the axis, user units
   Variant deiktis;   // index of refraction
 
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
  private:
   void connectHandlers();
   void resized();
   void lensChanged();
-  poreiaaktinon::SinglePair sourceCentre() const;
+  // Draws over what is there.
+  void push(poreiaaktinon::single::Layer layer);
   // Clears and draws the ray from the source towards (xa, ya), with the line of its aim.
   void sendRay(float xa, float ya);
 
-  Moves& moves_;
+  Context context_;
   MoniaktinaControls controls_;
-  // From the moment the screen is opened until something is changed on it.
-  bool justOpened_ = false;
+  Easel<poreiaaktinon::single::Shown> easel_{*this};
 };
 
 }  // namespace lensbench
