@@ -10,6 +10,7 @@ struct Shared {
   bool amfikyrtosSahl = false;  // amfikyrtos: biconvex; false is the plano-convex lens
   Variant pigiX, pigiY;         // pigi: source of the fan on the Ibn Sahl screen, user units
   bool desmiMode = false;       // desmi: bundle; what the workbench sent last
+  bool onlyWavesAsked = false;  // "ONLY WAVES" was chosen and no press came after it
 };
 
 }  // namespace lensbench

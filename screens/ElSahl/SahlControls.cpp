@@ -7,6 +7,7 @@ namespace {
 
 constexpr Rgb edgeColour{0x00C00000};
 constexpr int edgeWidth = 3;  // pixels
+constexpr Rgb sourceColour = RGB(255, 128, 0);
 
 }  // namespace
 
@@ -16,6 +17,9 @@ SahlControls::SahlControls(Form& form)
       kymataYESNO(form, "kymataYESNO", {120, 0, 1455, 375}),
       Line2(form, "Line2", {1800, 1320, 1920, 2640}),
       Line1(form, "Line1", {360, 0, 360, 1200}),
+      mark2(form, "mark2", edgeColour),
+      mark1(form, "mark1", edgeColour),
+      sourceMark(form, "sourceMark", sourceColour),
       parallilidesmifotos(form, "parallilidesmifotos", "PARALLILI  DESMH"),
       TELOS(form, "TELOS", "END"),
       kymatikosahl(form, "kymatikosahl", "WAVES"),
@@ -23,10 +27,16 @@ SahlControls::SahlControls(Form& form)
   setTexts();
   placeOptions();
   describeAll();
-  for (LineControl* edge : {&Line1, &Line2}) {
+  for (DiaphragmEdge* edge : {&Line1, &Line2}) {
     edge->BorderColor(edgeColour);
     edge->BorderWidth(edgeWidth);
   }
+}
+
+double SahlControls::optionsBottom() const {
+  return std::max({onlyrays.geometry().bottom(), RAYSANDWAVES.geometry().bottom(),
+                   kymataYESNO.geometry().bottom()}) +
+         1;
 }
 
 void SahlControls::setTexts() {
