@@ -44,9 +44,8 @@ Grab circleAt(Point p, const Fakos& lens) {
   // Marks that cover each other are told apart by the side of the press.
   if (lens.xc1 == lens.xc2 && p.x >= lens.xc1) std::swap(left, right);
   const Candidate centre = nearer(left, right);
-  const Candidate edge =
-      nearer({Grab::LeftEdge, edgeDistance(p, lens.xc1, lens.R1), edgeMargin},
-             {Grab::RightEdge, edgeDistance(p, lens.xc2, lens.R2), edgeMargin});
+  const Candidate edge = nearer({Grab::LeftEdge, edgeDistance(p, lens.xc1, lens.R1), edgeMargin},
+                                {Grab::RightEdge, edgeDistance(p, lens.xc2, lens.R2), edgeMargin});
   // A circle of radius 0 is as near as its centre everywhere: outside the mark it is enlarged.
   const bool edgeFirst = edge.distance == centre.distance && centre.distance > centreMark;
   const Candidate& best = edgeFirst ? nearer(edge, centre) : nearer(centre, edge);

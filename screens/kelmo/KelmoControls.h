@@ -60,8 +60,8 @@ struct KelmoControls {
   EdgeMark upperBladeMark;
   EdgeMark lowerBladeMark;
   EdgeMark sourceMark;
-  Timer Timer1;       // waves in time
-  Timer Timer2;       // plane waves
+  Timer Timer1;  // waves in time
+  Timer Timer2;  // plane waves
 
  private:
   void setRanges();

@@ -28,7 +28,7 @@ const FormDesign design{"kelmo", "SPHERICAL  LENSES", 165, 735, 11070, 6120, sys
 kelmo::kelmo(const Context& context)
     : Form(design), context_(context), controls_(*this, context.clock), easel_(*this) {
   setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
-  describe(area(), "Σχέδιο με τον φακό · Picture of the lens", {});
+  describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
   // Below this the controls would stand on each other.
   setMinimumSize(640, 480);
   canvas().FontName("Symbol");
@@ -84,7 +84,7 @@ void kelmo::Form_Load() {
   c.Text5.Text(labelled("Ακτίνα2=", formatWhole(c.aktina2.Value())));
   c.Text6.Text(labelled("Ακτίνα1=", formatWhole(c.aktina1.Value())));
   c.Text7.Text(labelled(rightCentreCaption, formatWhole(c.kentrokykloy.Value())));
-  c.arrange(area().width(), area().height());
+  c.arrange(drawingArea()->width(), drawingArea()->height());
   scaleToClientArea(*this);
   placeSource({-200.0, 0.0});
   placeDiaphragm(diaphragmOfSliders());
@@ -94,7 +94,7 @@ void kelmo::Form_Load() {
 void kelmo::resized() {
   const poreiaaktinon::Diafragma blades = diafragma();
   const Point source = pigi();
-  controls_.arrange(area().width(), area().height());
+  controls_.arrange(drawingArea()->width(), drawingArea()->height());
   scaleToClientArea(*this);
   placeSource(source);
   placeDiaphragm(blades);

@@ -23,12 +23,12 @@ class kelmo : public Form {
   const std::optional<poreiaaktinon::Sent>& set() const { return set_; }
 
   // What the controls say; lengths in user units.
-  double R1() const { return controls_.aktina1.Value(); }          // radius of the left circle
-  double R2() const { return controls_.aktina2.Value(); }          // radius of the right circle
-  double xc1() const { return controls_.kentrokykloy2.Value(); }   // centre of the left circle
-  double xc2() const { return controls_.kentrokykloy.Value(); }    // centre of the right circle
+  double R1() const { return controls_.aktina1.Value(); }         // radius of the left circle
+  double R2() const { return controls_.aktina2.Value(); }         // radius of the right circle
+  double xc1() const { return controls_.kentrokykloy2.Value(); }  // centre of the left circle
+  double xc2() const { return controls_.kentrokykloy.Value(); }   // centre of the right circle
   double n() const { return controls_.deiktisdiathlasis.Value() / 100.0; }  // index of refraction
-  double vima() const;  // step between the rays of a fan, degrees
+  double vima() const;                                    // step between the rays of a fan, degrees
   double xpigi() const { return controls_.pigi.Left(); }  // light source
   double ypigi() const { return controls_.pigi.Top(); }
   Point pigi() const { return {xpigi(), ypigi()}; }
@@ -107,8 +107,8 @@ class kelmo : public Form {
   // A thing that the mouse holds from a press to the release.
   struct Drag {
     Grab grab = Grab::None;
-    Point taken;  // where the press took it, user units
-    Point at;     // where the mouse is
+    Point taken;                         // where the press took it, user units
+    Point at;                            // where the mouse is
     poreiaaktinon::Diafragma diafragma;  // as it was when it was taken
     Point pigi;                          // likewise
   };

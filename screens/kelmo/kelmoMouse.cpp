@@ -43,8 +43,8 @@ Grab kelmo::grabbedAt(Point p) const {
 Room kelmo::room() const {
   Room room{edges(), {}};
   const UserMapping map = canvas().mapping();
-  for (const QWidget* control : area().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    if (!control->isVisibleTo(&area())) continue;
+  for (const QWidget* control : drawingArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (!control->isVisibleTo(drawingArea())) continue;
     const QRectF place = control->geometry();
     const Point upperLeft = map.toUser({place.left(), place.top()});
     const Point lowerRight = map.toUser({place.right(), place.bottom()});

@@ -148,7 +148,8 @@ void kelmo::showFronts() {
   if (showsWaveScene()) {
     next.layers = {WaveScene{fakos(), n()}};
   } else {
-    std::erase_if(next.layers, [](const auto& layer) { return std::holds_alternative<Fronts>(layer); });
+    std::erase_if(next.layers,
+                  [](const auto& layer) { return std::holds_alternative<Fronts>(layer); });
   }
   if (ticks_ > 0) next.layers.emplace_back(Fronts{*set_, std::min(ticks_, lastDrawnStep)});
   easel_.show(std::move(next));
