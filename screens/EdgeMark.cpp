@@ -31,7 +31,17 @@ void EdgeMark::follow(Point user) {
   if (!Visible()) return;
   p.x = std::max(size, std::min(p.x, whole.width() - size));
   p.y = std::max(size, std::min(p.y, whole.height() - size));
-  while (const QWidget* control = controlOver(p)) p.y = control->geometry().bottom() + size;
+  // Past the controls there towards the middle, sideways past an upright one.
+  const bool toTheRight = p.x < whole.width() / 2.0;
+  const bool downwards = p.y < whole.height() / 2.0;
+  while (const QWidget* control = controlOver(p)) {
+    const QRect place = control->geometry();
+    if (place.height() > place.width()) {
+      p.x = toTheRight ? place.right() + size : place.left() - size;
+    } else {
+      p.y = downwards ? place.bottom() + size : place.top() - size;
+    }
+  }
   const Point corner = map.toUser({p.x - size / 2.0, p.y - size / 2.0});
   Left(corner.x);
   Top(corner.y);
