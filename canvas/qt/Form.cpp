@@ -4,15 +4,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHelpEvent>
 #include <QLayout>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QShortcut>
-#include <QToolTip>
 
 #include "canvas/qt/DrawingArea.h"
+#include "canvas/qt/MenuBar.h"
 
 namespace lensbench {
 namespace {
@@ -35,6 +32,7 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   setObjectName(design.name);
   setWindowTitle(design.caption);
   setCentralWidget(area_);
+  setMenuBar(new MenuBar(this));
 
   QPalette colours = palette();
   if (design.background) {
@@ -58,8 +56,6 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   connect(area_, &DrawingArea::released, this,
           [=](const QMouseEvent* event) { report(&Form::MouseUp, event->button(), event); });
   connect(area_, &DrawingArea::canvasResized, this, &Form::Resized);
-  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Form::enterMenuBar);
-  connect(menuBar(), &QMenuBar::triggered, this, &Form::leaveMenuBar);
 
   clientSize(design.width, design.height);
 }
@@ -120,7 +116,6 @@ void Form::fillDisplay() {
 }
 
 void Form::addMenuEntry(QAction* entry) {
-  if (menuBar()->actions().isEmpty()) menuBar()->installEventFilter(this);
   menuBar()->addAction(entry);
   // The bar takes its height from the window and not from the client area.
   if (client_ && !shown_)
@@ -172,14 +167,6 @@ void Form::moveEvent(QMoveEvent* event) {
 
 bool Form::eventFilter(QObject* watched, QEvent* event) {
   markInput(watched, *event);
-  if (event->type() == QEvent::ToolTip && watched == menuBar()) {
-    showMenuToolTip(*event);
-    return true;
-  }
-  if (event->type() == QEvent::KeyRelease && watched == menuBar() &&
-      static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    leaveMenuBar();
-  }
   return QMainWindow::eventFilter(watched, event);
 }
 
@@ -189,23 +176,6 @@ void Form::markInput(const QObject* watched, const QEvent& event) {
   if (hadInput_ || !press || !watched->isWidgetType()) return;
   hadInput_ = static_cast<const QWidget*>(watched)->window() == this;
   if (hadInput_) qApp->removeEventFilter(this);
-}
-
-void Form::showMenuToolTip(const QEvent& event) {
-  const auto& help = static_cast<const QHelpEvent&>(event);
-  const QAction* entry = menuBar()->actionAt(help.pos());
-  QToolTip::showText(help.globalPos(), entry == nullptr ? QString() : entry->toolTip(), menuBar());
-}
-
-void Form::enterMenuBar() {
-  if (menuBar()->actions().isEmpty() || menuBar()->hasFocus()) return;
-  beforeMenu_ = focusWidget();
-  menuBar()->setFocus(Qt::MenuBarFocusReason);
-  menuBar()->setActiveAction(menuBar()->actions().constFirst());
-}
-
-void Form::leaveMenuBar() {
-  if (menuBar()->hasFocus() && beforeMenu_) beforeMenu_->setFocus(Qt::MenuBarFocusReason);
 }
 
 }  // namespace lensbench

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QString>
 
 #include "canvas/Rgb.h"
@@ -102,13 +101,8 @@ class Form : public QMainWindow {
   void fitFrame();
   void outerSize(QSize size);
   void markInput(const QObject* watched, const QEvent& event);
-  void showMenuToolTip(const QEvent& event);
-  void enterMenuBar();
-  // The keyboard goes back to where it was before it entered the menu bar.
-  void leaveMenuBar();
 
   DrawingArea* area_;
-  QPointer<QWidget> beforeMenu_;
   std::optional<QSize> client_;  // the client area asked for, until the form is shown
   std::optional<QSize> outer_;   // the size with frame asked for
   QSize frame_;                  // what the frame added when outer_ was last applied
