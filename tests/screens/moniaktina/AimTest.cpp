@@ -42,15 +42,27 @@ TEST_F(MoniaktinaAimTest, AimIsShownWhileTheButtonIsHeldAndLeavesNoTrace) {
   EXPECT_EQ(picture(), rayPicture(design, 30.0, -12.0));
 }
 
-TEST_F(MoniaktinaAimTest, OpeningTheScreenAgainEndsADragLeftByTheKeyboard) {
+TEST_F(MoniaktinaAimTest, HidingTheScreenEndsADrag) {
   screen.Form_MouseDown(1, 0, -150.0, 42.0);
   screen.Form_MouseMove(1, 0, 20.0, -10.0);
-  screen.close();
-  open();
+  screen.Hide();
   EXPECT_FALSE(c.aim.Visible());
+  open();
   screen.Form_MouseMove(0, 0, 60.0, 30.0);
   EXPECT_FALSE(c.aim.Visible());
   EXPECT_EQ(picture(), lensPicture(design));
+}
+
+TEST_F(MoniaktinaAimTest, AMoveWithoutTheLeftButtonEndsADrag) {
+  const QImage before = picture();
+  for (const int others : {0, 2, 4, 6}) {
+    screen.Form_MouseDown(1, 0, -150.0, 42.0);
+    screen.Form_MouseMove(1 | others, 0, 20.0, -10.0);
+    EXPECT_TRUE(c.aim.Visible()) << others;
+    screen.Form_MouseMove(others, 0, 30.0, -10.0);
+    EXPECT_FALSE(c.aim.Visible()) << others;
+  }
+  EXPECT_EQ(picture(), before);
 }
 
 TEST_F(MoniaktinaAimTest, MovingWithoutAPressShowsNoAim) {
@@ -125,6 +137,17 @@ TEST_F(MoniaktinaAimTest, HowToAimIsSaidUntilItHasBeenDone) {
   EXPECT_TRUE(screen.drawingArea()->toolTip().isEmpty());
 }
 
+TEST_F(MoniaktinaAimTest, WhatStopsARayIsSaidUntilARayHasPassed) {
+  const QString hint = screen.drawingArea()->toolTip();
+  t.moves.opening = {-80.0, 0.0, 0.0};
+  screen.Form_MouseDown(1, 0, -150.0, 42.0);
+  screen.Form_MouseUp(1, 0, 30.0, -12.0);
+  EXPECT_EQ(screen.drawingArea()->toolTip(), hint);
+  t.moves.opening = {-80.0, 90.0, -90.0};
+  screen.Form_MouseUp(1, 0, 30.0, -12.0);
+  EXPECT_TRUE(screen.drawingArea()->toolTip().isEmpty());
+}
+
 TEST_F(MoniaktinaAimTest, ReleaseStraightAboveOrBelowEndsInDivisionByZero) {
   screen.Form_MouseDown(1, 0, -150.0, 42.0);
   const Point source = middleOfFos();
@@ -136,6 +159,11 @@ TEST_F(MoniaktinaAimTest, ReleaseStraightAboveOrBelowEndsInDivisionByZero) {
       EXPECT_EQ(error.number(), 11);
       EXPECT_FALSE(error.detail().empty());
     }
+    // What was drawn before the error stands behind its box.
+    const auto& layers = screen.shown().layers;
+    ASSERT_EQ(layers.size(), 2u);
+    EXPECT_TRUE(std::holds_alternative<poreiaaktinon::single::AimLine>(layers[0]));
+    EXPECT_TRUE(std::holds_alternative<poreiaaktinon::single::LensUnderRay>(layers[1]));
   }
 }
 
