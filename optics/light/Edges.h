@@ -19,8 +19,11 @@ Edges edgesOf(const Canvas& canvas);
 // The edges moved out all around by a distance, or in by a negative one.
 Edges movedOut(const Edges& edges, double distance);
 
-// Where a ray crosses the edges that it heads for; the start itself when the area lies behind the
-// ray. The direction may be of any length but 0.
+// Where the line of a ray meets the nearer of the two edges that the ray heads for, behind the
+// start too. The direction may be of any length but 0.
+Point nearerEdge(const Edges& edges, Point start, Point direction);
+
+// The same point where the ray leaves the area; the start itself when the area lies behind the ray.
 Point leavingPoint(const Edges& edges, Point start, Point direction);
 
 // The stretch of a ray from start along a direction, between multiples from and to of that

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "optics/light/Stop.h"
+#include "optics/light/Tracer.h"
 
 namespace lensbench::poreiaaktinon {
 
@@ -23,6 +23,10 @@ struct Fakos {
 // True when the circles cross and enclose some glass.
 bool hasLens(const Fakos& fakos);
 
+// Abscissas of the vertices of a lens.
+double leftVertex(const Fakos& fakos);
+double rightVertex(const Fakos& fakos);
+
 // Everything that a ray can meet on its way.
 struct Bench {
   Fakos fakos;
@@ -31,5 +35,10 @@ struct Bench {
 
   friend bool operator==(const Bench&, const Bench&) = default;
 };
+
+// The bench as rays are traced through it; rays end at the edges. Without a lens no ray meets a
+// face. An index of 0 is Division by zero (11).
+light::Lens lensOf(const Bench& bench);
+light::Conditions conditionsOf(const Bench& bench, const light::Edges& edges);
 
 }  // namespace lensbench::poreiaaktinon

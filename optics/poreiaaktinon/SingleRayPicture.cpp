@@ -1,0 +1,153 @@
+#include "optics/poreiaaktinon/SingleRayPicture.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <type_traits>
+
+#include "canvas/RuntimeError.h"
+#include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Palette.h"
+#include "optics/poreiaaktinon/RayDrawing.h"
+
+namespace lensbench::poreiaaktinon::single {
+namespace {
+
+constexpr double focalMark = 3.0;     // radius
+constexpr double rimMark = 6.0;       // radius
+constexpr double rimLineEnd = 200.0;  // the lines along the lens reach from -200 to 200
+
+[[noreturn]] void divisionByZero(const char* sentence) {
+  throw RuntimeError(RuntimeError::Code::DivisionByZero, sentence);
+}
+
+// Leaves DrawWidth at 1.
+void drawFaces(Canvas& canvas, const Outline& o) {
+  canvas.DrawWidth(palette::outlineWidth);
+  canvas.Circle(o.xc1, 0.0, o.R1, palette::outlineFace, 2.0 * pi - o.alpha1, o.alpha1);
+  canvas.Circle(o.xc2, 0.0, o.R2, palette::outlineFace, pi - o.alpha2, pi + o.alpha2);
+  canvas.DrawWidth(1);
+}
+
+// An Empty focal length, that of an index of 1, puts both marks on the chord.
+void drawFocalMarks(Canvas& canvas, const Outline& o) {
+  for (const double side : {-1.0, 1.0}) {
+    canvas.Circle(o.x0 + side * o.f.value(), 0.0, focalMark, palette::outlineMark);
+  }
+}
+
+void drawLayer(Canvas& canvas, const AimLine& aim) {
+  canvas.Line(aim.from.x, aim.from.y, aim.to.x, aim.to.y);
+}
+
+void drawLayer(Canvas& canvas, const LensAlone& lens) {
+  drawFaces(canvas, lens.outline);
+  drawFocalMarks(canvas, lens.outline);
+}
+
+void drawLayer(Canvas& canvas, const LensUnderRay& lens) {
+  const Outline& o = lens.outline;
+  for (const bool withRimMarks : {false, true}) {
+    if (withRimMarks) {
+      canvas.Circle(o.x0, o.h, rimMark, palette::outlineMark);
+      canvas.Circle(o.x0, -o.h, rimMark, palette::outlineMark);
+    }
+    drawFocalMarks(canvas, o);
+    drawFaces(canvas, o);
+    canvas.Line(-rimLineEnd, o.h, rimLineEnd, o.h);
+    canvas.Line(-rimLineEnd, o.h2, rimLineEnd, o.h2);
+  }
+}
+
+void drawLayer(Canvas& canvas, const Ray& ray) {
+  for (const light::RayPath& path : *ray.sent.paths) {
+    drawPath(canvas, path, palette::airRay, palette::airRay);
+  }
+}
+
+void drawLayers(Canvas& canvas, const std::vector<Layer>& layers, std::size_t from) {
+  for (std::size_t i = from; i < layers.size(); ++i) {
+    std::visit([&](const auto& layer) { drawLayer(canvas, layer); }, layers[i]);
+  }
+}
+
+bool same(Point a, Point b) { return a.x == b.x && a.y == b.y; }
+bool same(const AimLine& a, const AimLine& b) { return same(a.from, b.from) && same(a.to, b.to); }
+bool same(const LensAlone& a, const LensAlone& b) { return a.outline == b.outline; }
+bool same(const LensUnderRay& a, const LensUnderRay& b) { return a.outline == b.outline; }
+bool same(const Ray& a, const Ray& b) { return a.sent == b.sent; }
+
+}  // namespace
+
+// All else follows from these.
+bool operator==(const Outline& a, const Outline& b) {
+  return a.R1 == b.R1 && a.R2 == b.R2 && a.xc1 == b.xc1 && a.xc2 == b.xc2 && a.f == b.f;
+}
+
+bool operator==(const Layer& a, const Layer& b) {
+  if (a.index() != b.index()) return false;
+  return std::visit(
+      [&](const auto& layer) {
+        return same(layer, *std::get_if<std::decay_t<decltype(layer)>>(&b));
+      },
+      a);
+}
+
+Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
+                  const Variant& deiktis) {
+  if (R1 == 0 || R2 == 0) {
+    divisionByZero(
+        "Με ακτίνα 0 ο κύκλος γίνεται σημείο και ο φακός δεν έχει όψη. "
+        "With a radius of 0 the circle is a point, and the lens has no face.");
+  }
+  if (xc2 == 0 && R1 == R2) {
+    divisionByZero(
+        "Οι δύο κύκλοι συμπίπτουν και δεν τέμνονται σε δύο σημεία. "
+        "The two circles are one and the same, and do not cross at two points.");
+  }
+  const SimeiaTomis rim = tomikyklonapostasis(xc2, R1, R2);
+  const bool upperFirst = rim.y1 > 0.0;
+  Outline outline{R1.value(), R2.value(), xc1.value(), xc2.value(), {}};
+  outline.f = estiakiapostasi(R1, R2, deiktis);
+  outline.x0 = rim.x1;
+  outline.h = upperFirst ? rim.y1 : rim.y2;
+  outline.h2 = upperFirst ? rim.y2 : rim.y1;
+  outline.alpha1 = toxoimitonou(outline.h / R1).value();
+  outline.alpha2 = toxoimitonou(outline.h / R2).value();
+  return outline;
+}
+
+Point aimedDirection(float xs, float ys, float xa, float ya) {
+  const float dx = xa - xs;
+  const float dy = ya - ys;
+  if (dx == 0.0f) {
+    divisionByZero(
+        "Η ακτίνα σημαδεύτηκε ακριβώς πάνω ή κάτω από την πηγή, όπου η κλίση της δεν ορίζεται. "
+        "The ray was aimed exactly above or below the source, where its slope is not defined.");
+  }
+  // So steep that the arc tangent cannot tell it from the vertical.
+  if (Atn(Variant(dy) / Variant(dx)) == 2 * Atn(1)) return {0.0, 50.0};
+  return {dx, dy};
+}
+
+Shown fittedTo(const light::Edges& edges, const Shown& shown) {
+  Shown fitted = shown;
+  for (Layer& layer : fitted.layers) {
+    if (auto* ray = std::get_if<Ray>(&layer)) ray->sent = resent(ray->sent, ray->sent.bench, edges);
+  }
+  return fitted;
+}
+
+void draw(Canvas& canvas, const Shown& shown) {
+  canvas.Cls();
+  drawLayers(canvas, shown.layers, 0);
+}
+
+void redraw(Canvas& canvas, const Shown& from, const Shown& to) {
+  const std::vector<Layer>& before = from.layers;
+  const bool added = before.size() <= to.layers.size() &&
+                     std::equal(before.begin(), before.end(), to.layers.begin());
+  if (!added) return draw(canvas, to);
+  drawLayers(canvas, to.layers, before.size());
+}
+
+}  // namespace lensbench::poreiaaktinon::single
