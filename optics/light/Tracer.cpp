@@ -29,9 +29,12 @@ struct Line {
         enterRight(right.from) {}
 
   double start() const { return right.start; }
-  // At the rim itself the right face is entered and the left one left.
-  Side entered() const { return enterLeft > enterRight ? Side::Left : Side::Right; }
+  Side entered(Side atRim) const {
+    if (enterLeft == enterRight) return atRim;
+    return enterLeft > enterRight ? Side::Left : Side::Right;
+  }
   double enter() const { return std::max(enterLeft, enterRight); }
+  // At the rim by the left face.
   Side leaving() const { return right.to < leftFoot + left.to ? Side::Right : Side::Left; }
   double leave() const { return std::min(right.to, leftFoot + left.to); }
 };
@@ -76,7 +79,7 @@ class Walk {
     }
     Side entered = Side::None;
     if (line.enter() >= line.start() - conditions_.touching) {
-      entered = line.entered();
+      entered = line.entered(conditions_.enteredAtRim);
       const FacePoint entry = pointAt(line, entered, true);
       if (stoppedBeforeLens(std::max(0.0, line.enter() - line.start())) ||
           !go(Medium::Air, entry.point)) {

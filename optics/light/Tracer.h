@@ -55,6 +55,9 @@ struct Conditions {
 
   // Where the last piece ends: at the edges of the drawing area, or after a length.
   std::variant<Edges, Lengths> end;
+
+  // The face that light enters by where it meets both at once, at the rim.
+  Side enteredAtRim = Side::Right;
 };
 
 // The path of a ray whose optical path at the start is phase. A start in the glass makes the first

@@ -43,6 +43,7 @@ light::Conditions conditionsOf(const Bench& bench, const light::Edges& edges) {
   conditions.onFace = onFace;
   conditions.diafragma = bench.diafragma;
   conditions.end = edges;
+  conditions.enteredAtRim = light::Side::Left;
   return conditions;
 }
 

@@ -36,4 +36,12 @@ void drawLeftFace(Canvas& canvas, const Fakos& fakos, Rgb colour) {
   if (arcs) drawArc(canvas, fakos.xc2, fakos.R2, colour, arcs->leftStart, arcs->leftEnd);
 }
 
+std::vector<CircleArc> faceOutline(const Fakos& fakos) {
+  const auto arcs = faceArcs(fakos);
+  if (!arcs) return {};
+  const double rightStart = arcs->rightStart - (arcs->rightStart > arcs->rightEnd ? 2.0 * pi : 0.0);
+  return {{{fakos.xc2, 0.0}, fakos.R2, arcs->leftStart, arcs->leftEnd},
+          {{fakos.xc1, 0.0}, fakos.R1, rightStart, arcs->rightEnd}};
+}
+
 }  // namespace lensbench::poreiaaktinon

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "canvas/Canvas.h"
 #include "optics/poreiaaktinon/Bench.h"
@@ -22,5 +23,8 @@ std::optional<FaceArcs> faceArcs(const Fakos& fakos);
 // A face at width 2, an arc of its circle; nothing when there is no lens.
 void drawRightFace(Canvas& canvas, const Fakos& fakos, Rgb colour);
 void drawLeftFace(Canvas& canvas, const Fakos& fakos, Rgb colour);
+
+// Both faces, the left one first, as one outline of the glass; empty when there is no lens.
+std::vector<CircleArc> faceOutline(const Fakos& fakos);
 
 }  // namespace lensbench::poreiaaktinon

@@ -170,8 +170,7 @@ DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Varian
 DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
                                         const Variant& x0, const Variant& y0, const Variant& dx,
                                         const Variant& dy) {
-  if (dx != 0) [[maybe_unused]]
-    const Variant slope = dy / dx;  // raises where it is no number
+  if (dx != 0) static_cast<void>(dy / dx);  // raises where the slope is no number
   const Diafragma diafragma{X.value(), yA.value(), yB.value()};
   const double y = light::heightAt(diafragma, point(x0, y0), point(dx, dy));
   if (!light::onBlade(diafragma, y)) return {toSingle(x0.value()), toSingle(y0.value()), 0};

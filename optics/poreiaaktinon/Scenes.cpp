@@ -16,7 +16,7 @@ constexpr double markRadius = 3.0;
 constexpr double rimLineEnd = 200.0;  // the lines along the lens reach from -200 to 200
 
 // What both scenes draw of a lens.
-struct Body {
+struct Glass {
   Fakos fakos;
   bool exists = false;  // the circles cross and no radius is 0: there is a lens body
   double xordi = 0.0;   // abscissa of the common chord
@@ -24,7 +24,7 @@ struct Body {
   Variant f;            // lensmaker focal length; Empty without a lens or where it is infinite
 };
 
-Body bodyOf(const Fakos& fakos, double n) {
+Glass glassOf(const Fakos& fakos, double n) {
   if (!hasLens(fakos)) return {fakos, false, 0.0, 0.0, {}};
   const SimeiaTomis rim = tomikyklonaxona(fakos.xc1, fakos.xc2, fakos.R1, fakos.R2);
   return {fakos, true, rim.x1, rim.y1, estiakiapostasi(fakos.R1, fakos.R2, n)};
@@ -35,17 +35,17 @@ void drawFaces(Canvas& canvas, const Fakos& fakos) {
   drawLeftFace(canvas, fakos, palette::face);
 }
 
-void drawFocalCircles(Canvas& canvas, const Body& body) {
-  if (body.f.isEmpty()) return;
+void drawFocalCircles(Canvas& canvas, const Glass& glass) {
+  if (glass.f.isEmpty()) return;
   for (const double side : {-1.0, 1.0}) {
-    canvas.Circle(body.xordi + side * body.f.value(), 0.0, markRadius, palette::thinFocus);
+    canvas.Circle(glass.xordi + side * glass.f.value(), 0.0, markRadius, palette::thinFocus);
   }
 }
 
-void drawRimLines(Canvas& canvas, const Body& body) {
-  if (!body.exists) return;
+void drawRimLines(Canvas& canvas, const Glass& glass) {
+  if (!glass.exists) return;
   canvas.DrawWidth(palette::rimWidth);
-  for (const double y : {body.h, -body.h}) {
+  for (const double y : {glass.h, -glass.h}) {
     canvas.Line(-rimLineEnd, y, rimLineEnd, y, palette::rim);
   }
   canvas.DrawWidth(1);
@@ -76,42 +76,42 @@ std::optional<double> fillStart(const Canvas& canvas, const Fakos& fakos) {
   return visible;
 }
 
-void fillBody(Canvas& canvas, const Body& body) {
-  if (!body.exists) return;
-  const auto x = fillStart(canvas, body.fakos);
+void fillBody(Canvas& canvas, const Glass& glass) {
+  if (!glass.exists) return;
+  const auto x = fillStart(canvas, glass.fakos);
   if (!x) return;
   canvas.FillColor(palette::glass);
   canvas.FillStyle(FillStyle::Solid);
-  canvas.FloodFill(
+  canvas.FillBody(
       static_cast<int>(canvas.ScaleX(*x - canvas.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel)),
       static_cast<int>(canvas.ScaleY(0.0 - canvas.ScaleTop(), ScaleUnit::User, ScaleUnit::Pixel)),
-      palette::face);
+      palette::face, {faceOutline(glass.fakos), palette::faceWidth});
   canvas.FillStyle(FillStyle::Transparent);
   // The fill runs over every colour but that of the faces, so what it met is drawn again.
-  drawCentres(canvas, body.fakos);
-  drawFocalCircles(canvas, body);
-  drawRimLines(canvas, body);
-  drawFullCircles(canvas, body.fakos);
+  drawCentres(canvas, glass.fakos);
+  drawFocalCircles(canvas, glass);
+  drawRimLines(canvas, glass);
+  drawFullCircles(canvas, glass.fakos);
 }
 
 }  // namespace
 
 void drawLensScene(Canvas& canvas, const LensScene& scene) {
-  const Body body = bodyOf(scene.fakos, scene.n);
+  const Glass glass = glassOf(scene.fakos, scene.n);
   drawFaces(canvas, scene.fakos);
-  drawFocalCircles(canvas, body);
-  drawRimLines(canvas, body);
+  drawFocalCircles(canvas, glass);
+  drawRimLines(canvas, glass);
   drawCentres(canvas, scene.fakos);
   drawFullCircles(canvas, scene.fakos);
-  fillBody(canvas, body);
+  fillBody(canvas, glass);
   drawCardinalPoints(canvas, scene.fakos, scene.n, scene.pigi);
 }
 
 void drawWaveScene(Canvas& canvas, const WaveScene& scene) {
-  const Body body = bodyOf(scene.fakos, scene.n);
+  const Glass glass = glassOf(scene.fakos, scene.n);
   canvas.FillColor(palette::glass);
   canvas.FillStyle(FillStyle::Solid);
-  drawFocalCircles(canvas, body);
+  drawFocalCircles(canvas, glass);
   canvas.FillStyle(FillStyle::Transparent);
   canvas.DrawStyle(DrawStyle::Dotted);
   drawFullCircles(canvas, scene.fakos);
