@@ -36,8 +36,8 @@ using Rays = std::variant<Fan, Desmi>;
 struct Asked {
   bool amfikyrtos = false;   // biconvex; false is the plano-convex lens
   double deiktisSahl = 1.5;  // index of refraction
-  Rays rays;
-  Diafragma diafragma;
+  Rays rays{};
+  Diafragma diafragma{};
   bool onlyRays = false;   // no fronts
   bool onlyWaves = false;  // no rays, no normals, no ideal bundle
 
