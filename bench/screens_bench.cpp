@@ -10,10 +10,8 @@
 #include "bench/Compare.h"
 #include "canvas/Recording.h"
 #include "canvas/qt/RasterCanvas.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Tracing.h"
+#include "optics/light/Edges.h"
 #include "screens/ElSahl/ElSahl.h"
-#include "screens/kelmo/Scene.h"
 #include "screens/kelmo/kelmo.h"
 #include "tests/screens/support/TestContext.h"
 
@@ -23,82 +21,70 @@ namespace {
 constexpr QSize display(1920, 1080);
 constexpr QSize sahlWindow(720, 720);
 
-// The workbench with a canvas that writes down what is drawn.
-class RecordedWorkbench : public poreiaaktinon::Workbench {
- public:
-  explicit RecordedWorkbench(kelmo& screen)
-      : screen_(screen), canvas_(screen.drawingArea()->width(), screen.drawingArea()->height()) {
-    const Canvas& shown = screen.canvas();
-    canvas_.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
-                  shown.ScaleTop() + shown.ScaleHeight());
-    poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return *this; });
-  }
-  ~RecordedWorkbench() override {
-    poreiaaktinon::connectWorkbench(
-        [&screen = screen_]() -> poreiaaktinon::Workbench& { return screen.workbench(); });
-  }
-
-  Recording& canvas() override { return canvas_; }
-  poreiaaktinon::Diafragma diafragma() const override { return screen_.workbench().diafragma(); }
-  poreiaaktinon::Fakos fakos() const override { return screen_.workbench().fakos(); }
-  double deiktisdiathlasis() const override { return screen_.workbench().deiktisdiathlasis(); }
-  Point pigi() const override { return screen_.workbench().pigi(); }
-  double vima() const override { return screen_.workbench().vima(); }
-  poreiaaktinon::Provoli provoli() const override { return screen_.workbench().provoli(); }
-
- private:
-  kelmo& screen_;
-  Recording canvas_;
-};
-
 // The workbench on a full display with its diaphragm wide open.
 struct Desk {
-  Screens screens;
-  kelmo& bench;
+  TestContext program;
+  kelmo bench{program.context};
   RasterCanvas bare{display, 1.0, 2};
 
-  Desk() : bench(screens.kelmo()) {
+  Desk() {
     bench.Show();
     bench.resize(display);
     QApplication::processEvents();
     bench.controls().VScroll1.Value(-90);
     bench.controls().VScroll2.Value(90);
     bare.resize(bench.drawingArea()->size(), 1.0);
-    const Canvas& shown = bench.canvas();
-    bare.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
-               shown.ScaleTop() + shown.ScaleHeight());
+    scaleLikeTheBench(bare);
   }
 
   void show() { bench.drawingArea()->repaint(); }
 
-  Point pixelOf(double x, double y) const {
-    const Canvas& c = bench.canvas();
-    return {c.ScaleX(x - c.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel),
-            c.ScaleY(y - c.ScaleTop(), ScaleUnit::User, ScaleUnit::Pixel)};
+  // What is drawn from nothing for the present picture, or to get to it from another.
+  Recording recorded() const {
+    Recording list = emptyList();
+    draw(list, bench.shown());
+    return list;
+  }
+  Recording recordedFrom(const poreiaaktinon::Shown& before) const {
+    Recording list = emptyList();
+    redraw(list, before, bench.shown());
+    return list;
   }
 
-  // What a scene and the given rays draw, as a list.
-  Recording recorded(const std::vector<poreiaaktinon::RayPath>& rays) {
-    RecordedWorkbench workbench(bench);
-    workbench.canvas().Cls();
-    drawLensScene(workbench);
-    poreiaaktinon::drawPaths(workbench.canvas(), rays, workbench.provoli());
-    return workbench.canvas();
+  // Runs a handler and shows its picture, beside the bare operations of the present one.
+  template <typename Handler>
+  void measure(benchmark::State& state, Handler handler) {
+    const Recording list = recorded();
+    compare(
+        state,
+        [&] {
+          handler();
+          show();
+        },
+        [&] { list.playOn(bare); });
+    state.counters["operations"] = static_cast<double>(list.operations().size());
+  }
+
+ private:
+  void scaleLikeTheBench(Canvas& canvas) const {
+    const light::Edges edges = light::edgesOf(bench.canvas());
+    canvas.Scale(edges.left, edges.upper, edges.right, edges.lower);
+  }
+  Recording emptyList() const {
+    Recording list(bench.drawingArea()->width(), bench.drawingArea()->height());
+    scaleLikeTheBench(list);
+    list.forget();
+    return list;
   }
 };
 
 void scrollBarStep(benchmark::State& state) {
   Desk desk;
-  const Recording list = desk.recorded({});
   int radius = 100;
-  compare(
-      state,
-      [&] {
-        radius = 201 - radius;
-        desk.bench.controls().aktina1.Value(radius);
-        desk.show();
-      },
-      [&] { list.playOn(desk.bare); });
+  desk.measure(state, [&] {
+    radius = 201 - radius;
+    desk.bench.controls().aktina1.Value(radius);
+  });
 }
 
 // A fan from an off-axis source; range(0) desmi1, range(1) the multiplier, range(2) waves too.
@@ -108,18 +94,10 @@ void fan(benchmark::State& state) {
   controls.desmi1.Value(static_cast<int>(state.range(0)));
   controls.arvimaton.Value(static_cast<int>(state.range(1)));
   controls.Check1.Value(state.range(2) != 0);
-  desk.bench.Form_MouseDown(1, 1, -250, 40);
-  const auto rays = poreiaaktinon::fanPaths(poreiaaktinon::setupOf(desk.bench.workbench()),
-                                            {-250, 40}, desk.bench.vima.value());
-  const Recording list = desk.recorded(rays);
-  state.counters["rays"] = static_cast<double>(rays.size());
-  compare(
-      state,
-      [&] {
-        desk.bench.Form_MouseDown(1, 1, -250, 40);
-        desk.show();
-      },
-      [&] { list.playOn(desk.bare); });
+  const auto send = [&] { desk.bench.Form_MouseDown(1, 1, -250, 40); };
+  send();
+  desk.measure(state, send);
+  state.counters["rays"] = poreiaaktinon::rayCount(desk.bench.vima());
 }
 
 // A bundle of 151 rays with waves at an angle of range(0) degrees.
@@ -128,31 +106,23 @@ void bundle(benchmark::State& state) {
   const double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
   desk.bench.controls().desmi1.Value(150);
   desk.bench.controls().Check1.Value(true);
-  const auto rays =
-      poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(desk.bench.workbench()), angle, 150);
-  const Recording list = desk.recorded(rays);
-  state.counters["rays"] = static_cast<double>(rays.size());
-  compare(
-      state,
-      [&] {
-        desk.bench.drawBundle(angle);
-        desk.show();
-      },
-      [&] { list.playOn(desk.bare); });
+  const auto send = [&] { desk.bench.drawBundle(angle); };
+  send();
+  desk.measure(state, send);
+  state.counters["rays"] = 151;
 }
 
-// A tick of the plane waves of 151 rays; the reference draws the two fronts and the scene once.
+// A tick of the plane waves of 151 rays; the reference draws one such step again and again.
 void tick(benchmark::State& state) {
   Desk desk;
   KelmoControls& controls = desk.bench.controls();
   controls.desmi1.Value(150);
   desk.bench.parallilakymata_Click();
-  for (int i = 0; i < 160; ++i) desk.bench.Timer2_Timer();
-  RecordedWorkbench workbench(desk.bench);
-  WaveAnimation animation;
-  animation.start(desk.bench.animation().set());
-  animation.draw(workbench, 160);
-  const Recording list = workbench.canvas();
+  for (int i = 0; i < 159; ++i) desk.bench.Timer2_Timer();
+  const poreiaaktinon::Shown before = desk.bench.shown();
+  desk.bench.Timer2_Timer();
+  const Recording list = desk.recordedFrom(before);
+  draw(desk.bare, before);
   compare(
       state,
       [&] {

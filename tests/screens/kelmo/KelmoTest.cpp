@@ -145,8 +145,8 @@ std::vector<std::string> KelmoTest::state() {
   for (const Shape* shape :
        std::initializer_list<const Shape*>{&c.pigi, &c.Shape1, &c.Shape2, &c.draggedEdge,
                                            &c.upperBladeMark, &c.lowerBladeMark, &c.sourceMark}) {
-    note(shape->objectName().toStdString(), shape->Left(), shape->Top(), shape->Width(),
-         shape->Height(), shape->Visible());
+    note(shape->objectName().toStdString(), shape->Visible());
+    if (shape->Visible()) note(shape->Left(), shape->Top(), shape->Width(), shape->Height());
   }
   for (const Timer* timer : {&c.Timer1, &c.Timer2}) {
     note(timer->objectName().toStdString(), timer->Enabled(), timer->Interval(),

@@ -41,7 +41,7 @@ TEST_F(PressTest, OtherButtonsChangeNothingAtAll) {
   const Point places[] = {{0.0, 150.0},  {0.0, 0.0},   {-50.0, 0.0},  {20.0, 0.0},
                           {-150.0, 0.0}, {110.0, 0.0}, {300.0, 50.0}, {-20.0, 30.0}};
   for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-    for (const Key key : {Qt::NoModifier, Qt::ShiftModifier}) {
+    for (const Qt::KeyboardModifier key : {Qt::NoModifier, Qt::ShiftModifier}) {
       for (const Point p : places) {
         press(p.x, p.y, key, button);
         drag(p.x + 20.0, p.y + 10.0);
