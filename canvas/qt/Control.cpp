@@ -42,6 +42,10 @@ QPalette coloursOn(const QColor& background) {
     for (const auto role : {QPalette::Window, QPalette::WindowText}) {
       plate.setColor(group, role, desktop.color(group, role));
     }
+    // The styles draw the edge of a box in a darker shade of the background, of which black has
+    // none: the box is as bright as the words, and its mark as dark as the plate.
+    plate.setColor(group, QPalette::Base, desktop.color(group, QPalette::WindowText));
+    plate.setColor(group, QPalette::Text, desktop.color(group, QPalette::Window));
   }
   return plate;
 }

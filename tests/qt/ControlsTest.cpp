@@ -406,6 +406,12 @@ TEST(DesktopColours, OfHighContrastStandOnPlates) {
     EXPECT_EQ(control->palette().color(QPalette::WindowText), QColor(Qt::white));
   }
   EXPECT_EQ(seen.pixelColor(240, 78), QColor(Qt::white));
+  // Whether a box is checked is seen, and that it is there.
+  const auto box = [&] { return controls.check.grab(QRect(3, 8, 8, 8)).toImage(); };
+  const QImage checked = box();
+  controls.check.Value(false);
+  EXPECT_NE(box(), checked);
+  EXPECT_EQ(box().pixelColor(4, 4), QColor(Qt::white));
 }
 
 TEST(DesktopColours, AreFollowedWhenTheyChange) {
