@@ -1,6 +1,10 @@
 // The edges of a drawing area, where rays end that nothing else ends.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "canvas/Canvas.h"
 
 namespace lensbench::light {
@@ -19,12 +23,28 @@ Edges edgesOf(const Canvas& canvas);
 // The edges moved out all around by a distance, or in by a negative one.
 Edges movedOut(const Edges& edges, double distance);
 
-// Where the line of a ray meets the nearer of the two edges that the ray heads for, behind the
-// start too. The direction may be of any length but 0.
-Point nearerEdge(const Edges& edges, Point start, Point direction);
+// Of the two edges that a ray heads for the one whose line is nearer, behind the start too: where
+// that line is met. The direction may be of any length but 0.
+struct EdgeAhead {
+  Point point;
+  double distance = 0.0;  // to the first of the two along the direction; 0 or less: one is behind
+};
+inline EdgeAhead nearerEdge(const Edges& edges, Point start, Point direction) {
+  constexpr double never = std::numeric_limits<double>::infinity();
+  const double side = direction.x > 0.0 ? edges.right : edges.left;
+  const double end = direction.y > 0.0 ? edges.upper : edges.lower;
+  const double toSide = direction.x == 0.0 ? never : (side - start.x) / direction.x;
+  const double toEnd = direction.y == 0.0 ? never : (end - start.y) / direction.y;
+  const double first = std::min(toSide, toEnd);
+  if (std::fabs(toEnd) < std::fabs(toSide)) return {{start.x + direction.x * toEnd, end}, first};
+  return {{side, start.y + direction.y * toSide}, first};
+}
 
-// The same point where the ray leaves the area; the start itself when the area lies behind the ray.
-Point leavingPoint(const Edges& edges, Point start, Point direction);
+// Where a ray leaves the area; the start itself when the area lies behind the ray.
+inline Point leavingPoint(const Edges& edges, Point start, Point direction) {
+  const EdgeAhead edge = nearerEdge(edges, start, direction);
+  return edge.distance <= 0.0 ? start : edge.point;
+}
 
 // The stretch of a ray from start along a direction, between multiples from and to of that
 // direction, that lies within the edges; empty when from > to.

@@ -68,49 +68,29 @@ Stretch stretchOf(const Plane& face, const Ray& ray) {
   return dx < 0.0 ? Stretch{crossing, unbounded} : Stretch{-unbounded, crossing};
 }
 
-template <class OpenFace>
-Chord chordOf(const OpenFace& face, const Ray& ray) {
-  const Stretch stretch = stretchOf(face, ray);
-  return {ray.start, {}, 0.0, stretch.from, stretch.to};
-}
-
-Chord chordOf(const Circle& circle, const Ray& ray) {
-  const Point fromCentre = ray.start - circle.centre;
-  const Point side = turned(ray.direction);
-  const double q = dot(fromCentre, side);
-  const double rest = (circle.radius - q) * (circle.radius + q);
-  const double half = rest > 0.0 ? std::sqrt(rest) : 0.0;
-  return {circle.centre, q * side, dot(fromCentre, ray.direction), -half, half};
-}
-
-// The gradient of y²/b² - x²/a², which points out of the glass, at length 1.
-std::optional<Point> normalOf(const Hyperbola& face, Point p) {
-  if (face.mirror) p = mirroredPoint(p, *face.mirror);
-  if (std::fabs(p.y) < vertexHeight) return std::nullopt;
-  const double k = face.b / face.a;
-  const Point gradient{-k * k * p.x, p.y};
-  const Point normal = (1.0 / length(gradient)) * gradient;
-  return face.mirror ? mirroredVector(normal) : normal;
-}
+Chord chordFromStart(const Stretch& stretch) { return {0.0, 0.0, stretch.from, stretch.to}; }
 
 }  // namespace
 
-Chord glassSide(const Face& face, const Ray& ray) {
-  if (const auto* circle = std::get_if<Circle>(&face)) return chordOf(*circle, ray);
-  if (const auto* hyperbola = std::get_if<Hyperbola>(&face)) return chordOf(*hyperbola, ray);
-  return chordOf(std::get<Plane>(face), ray);
+Chord glassSide(const Hyperbola& hyperbola, const Ray& ray) {
+  return chordFromStart(stretchOf(hyperbola, ray));
 }
 
-FacePoint pointOf(const Face& face, const Chord& chord, Point direction, double distance) {
-  const Point fromOrigin = chord.foot + distance * direction;
-  const Point point = chord.origin + fromOrigin;
-  if (const auto* circle = std::get_if<Circle>(&face)) {
-    return {point, (1.0 / circle->radius) * fromOrigin};
-  }
-  if (const auto* hyperbola = std::get_if<Hyperbola>(&face)) {
-    return {point, normalOf(*hyperbola, point)};
-  }
-  return {point, Point{1.0, 0.0}};
+Chord glassSide(const Plane& plane, const Ray& ray) {
+  return chordFromStart(stretchOf(plane, ray));
 }
+
+// The gradient of y²/b² - x²/a², which points out of the glass, at length 1.
+std::optional<Point> outwardNormal(const Hyperbola& hyperbola, Point p) {
+  const auto& [a, b, mirror] = hyperbola;
+  if (mirror) p = mirroredPoint(p, *mirror);
+  if (std::fabs(p.y) < vertexHeight) return std::nullopt;
+  const double k = b / a;
+  const Point gradient{-k * k * p.x, p.y};
+  const Point normal = (1.0 / length(gradient)) * gradient;
+  return mirror ? mirroredVector(normal) : normal;
+}
+
+std::optional<Point> outwardNormal(const Plane&, Point) { return Point{1.0, 0.0}; }
 
 }  // namespace lensbench::light

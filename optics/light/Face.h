@@ -1,6 +1,7 @@
 // The faces that a lens can have, and which part of a ray's line is on the glass side of each.
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <variant>
 
@@ -47,28 +48,61 @@ struct Plane {
 using Face = std::variant<Circle, Hyperbola, Plane>;
 
 // Where the line of a ray is on the glass side of a face: distances along the ray from the foot of
-// the chord, a point of the line that is given relative to an origin. For a circle that is the foot
-// of the perpendicular from its centre, so that the ends lie on the circle however far away the ray
-// starts; for the other faces it is the start of the ray. Infinite where the stretch is unbounded;
-// from >= to where there is none.
+// the chord. For a circle that is the foot of the perpendicular from its centre, so that the ends
+// lie on the circle however far away the ray starts; for the other faces it is the start of the
+// ray. Infinite where the stretch is unbounded; from >= to where there is none.
 struct Chord {
-  Point origin;
-  Point foot;          // relative to the origin
+  double aside = 0.0;  // of the foot from the origin, counter-clockwise across the ray
   double start = 0.0;  // of the ray
   double from = 0.0;
   double to = 0.0;
 
   bool empty() const noexcept { return !(from < to); }
 };
-Chord glassSide(const Face& face, const Ray& ray);
+Chord glassSide(const Circle& circle, const Ray& ray);
+Chord glassSide(const Hyperbola& hyperbola, const Ray& ray);
+Chord glassSide(const Plane& plane, const Ray& ray);
 
-// A point of a face, user units, and the unit normal there, out of the glass. There is none at the
-// vertex of a hyperbola, where rays are not refracted.
+// What the foot of a chord is measured from: the centre of a circle, or the start of the ray.
+constexpr Point originOf(const Circle& circle, const Ray&) noexcept { return circle.centre; }
+constexpr Point originOf(const Hyperbola&, const Ray& ray) noexcept { return ray.start; }
+constexpr Point originOf(const Plane&, const Ray& ray) noexcept { return ray.start; }
+
+// Unit normal of a face, out of the glass, at a point that is given relative to the centre of a
+// circle, and to the origin of coordinates for the others. None at the vertex of a hyperbola, where
+// rays are not refracted.
+std::optional<Point> outwardNormal(const Circle& circle, Point fromCentre);
+std::optional<Point> outwardNormal(const Hyperbola& hyperbola, Point p);
+std::optional<Point> outwardNormal(const Plane& plane, Point p);
+
+// Circles are here to be traced without a call.
+inline Chord glassSide(const Circle& circle, const Ray& ray) {
+  const Point fromCentre = ray.start - circle.centre;
+  const double aside = dot(fromCentre, turned(ray.direction));
+  const double rest = (circle.radius - aside) * (circle.radius + aside);
+  const double half = rest > 0.0 ? std::sqrt(rest) : 0.0;
+  return {aside, dot(fromCentre, ray.direction), -half, half};
+}
+
+inline std::optional<Point> outwardNormal(const Circle& circle, Point fromCentre) {
+  return (1.0 / circle.radius) * fromCentre;
+}
+
+// A point of a face, and the normal there.
 struct FacePoint {
   Point point;
   std::optional<Point> normal;
 };
-// The point of the face at a distance along the ray from the foot of the chord.
-FacePoint pointOf(const Face& face, const Chord& chord, Point direction, double distance);
+// The point at a distance along the ray from the foot of the chord.
+inline FacePoint pointOf(const Circle& circle, const Ray& ray, const Chord& chord,
+                         double distance) {
+  const Point fromCentre = chord.aside * turned(ray.direction) + distance * ray.direction;
+  return {circle.centre + fromCentre, outwardNormal(circle, fromCentre)};
+}
+template <class OpenFace>
+FacePoint pointOf(const OpenFace& face, const Ray& ray, const Chord&, double distance) {
+  const Point p = ray.at(distance);
+  return {p, outwardNormal(face, p)};
+}
 
 }  // namespace lensbench::light

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <optional>
+#include <variant>
 
 namespace lensbench::light {
 namespace {
@@ -21,10 +23,11 @@ struct Line {
   double enterLeft = 0.0;
   double enterRight = 0.0;
 
-  Line(const Lens& lens, const Ray& ray)
-      : left(glassSide(lens.left, ray)),
-        right(glassSide(lens.right, ray)),
-        leftFoot(dot(left.origin - right.origin, ray.direction)),
+  template <class Left, class Right>
+  Line(const Left& leftFace, const Right& rightFace, const Ray& ray)
+      : left(glassSide(leftFace, ray)),
+        right(glassSide(rightFace, ray)),
+        leftFoot(dot(originOf(leftFace, ray) - originOf(rightFace, ray), ray.direction)),
         enterLeft(leftFoot + left.from),
         enterRight(right.from) {}
 
@@ -48,83 +51,89 @@ bool within(const Circle& circle, Point p, double radii) {
 
 // Settles a start that stands on a face: the face it heads in by is behind it. False when it heads
 // out of the lens, or along the tangent.
-bool leaveFaceBehind(Line& line, const Lens& lens, Point start, double margin) {
-  const auto* left = std::get_if<Circle>(&lens.left);
-  const auto* right = std::get_if<Circle>(&lens.right);
-  if (left == nullptr || right == nullptr) return true;
-  if (!within(*right, start, 1.0 + margin) || !within(*left, start, 1.0 + margin)) return true;
+bool leaveFaceBehind(Line& line, const Circle& left, const Circle& right, Point start,
+                     double margin) {
+  if (!within(right, start, 1.0 + margin) || !within(left, start, 1.0 + margin)) return true;
   constexpr double behind = -std::numeric_limits<double>::infinity();
-  if (!within(*right, start, 1.0 - margin)) {
+  if (!within(right, start, 1.0 - margin)) {
     if (line.right.start >= 0.0) return false;
     line.enterRight = behind;
   }
-  if (!within(*left, start, 1.0 - margin)) {
+  if (!within(left, start, 1.0 - margin)) {
     if (line.left.start >= 0.0) return false;
     line.enterLeft = behind;
   }
   return true;
 }
 
-// One ray on its way.
+template <class Left, class Right>
+bool leaveFaceBehind(Line&, const Left&, const Right&, Point, double) {
+  return true;
+}
+
+// One ray on its way, through faces whose shapes are known to the compiler.
+template <class Left, class Right>
 class Walk {
  public:
-  Walk(const Lens& lens, const Ray& ray, const Conditions& conditions, RayPath& path)
-      : lens_(lens), conditions_(conditions), path_(path), at_(ray) {}
+  Walk(const Left& left, const Right& right, const Ray& ray, const Conditions& conditions,
+       RayPath& path)
+      : left_(left), right_(right), conditions_(conditions), path_(path), at_(ray) {}
 
   void run() {
-    Line line(lens_, at_);
-    if (!meetsGlass(line)) {
-      if (!stoppedBesideLens()) emerge();
-      return;
-    }
-    Side entered = Side::None;
-    if (line.enter() >= line.start() - conditions_.touching) {
-      entered = line.entered(conditions_.enteredAtRim);
-      const FacePoint entry = pointAt(line, entered, true);
-      if (stoppedBeforeLens(std::max(0.0, line.enter() - line.start())) ||
-          !go(Medium::Air, entry.point)) {
-        return;
-      }
-      if (!cross(entered, entry.normal, 1.0 / lens_.n)) return;
-      if (entry.normal) line = Line(lens_, at_);
-    } else if (stoppedBeforeLens(0.0)) {
-      return;
-    }
-    leave(line, entered);
+    Line line = lineAhead();
+    if (meetsGlass(line) ? throughGlass(line) : !stoppedBesideLens()) emerge();
   }
 
  private:
+  Line lineAhead() const { return {left_, right_, at_}; }
+
   bool meetsGlass(Line& line) const {
     const double leave = line.leave();
     return leave - line.start() > conditions_.touching &&
            leave - line.enter() > conditions_.touching &&
-           (conditions_.onFace <= 0.0 ||
-            leaveFaceBehind(line, lens_, at_.start, conditions_.onFace));
+           leaveFaceBehind(line, left_, right_, at_.start, conditions_.onFace);
   }
 
-  FacePoint pointAt(const Line& line, Side side, bool entering) const {
-    const Chord& chord = side == Side::Left ? line.left : line.right;
-    const double distance = entering ? std::max(chord.start, chord.from) : chord.to;
-    return pointOf(side == Side::Left ? lens_.left : lens_.right, chord, at_.direction, distance);
+  // Into the glass and out of it; false when the ray ends on the way.
+  bool throughGlass(Line& line) {
+    if (line.enter() < line.start() - conditions_.touching) {
+      return !stoppedBeforeLens(0.0) && leaveGlass(line, Side::None);
+    }
+    if (stoppedBeforeLens(std::max(0.0, line.enter() - line.start()))) return false;
+    const Side entered = line.entered(conditions_.enteredAtRim);
+    const FacePoint entry = pointAt<true>(line, entered);
+    if (!go(Medium::Air, entry.point) || !cross(entered, entry.normal, 1.0 / path_.n)) return false;
+    if (entry.normal) line = lineAhead();
+    return leaveGlass(line, entered);
   }
 
-  // From the entry, or the start in the glass, to the face that the ray leaves by and out.
-  void leave(const Line& line, Side entered) {
+  template <bool entering>
+  FacePoint pointAt(const Line& line, Side side) const {
+    const auto distance = [](const Chord& chord) {
+      return entering ? std::max(chord.start, chord.from) : chord.to;
+    };
+    if (side == Side::Left) return pointOf(left_, at_, line.left, distance(line.left));
+    return pointOf(right_, at_, line.right, distance(line.right));
+  }
+
+  // From the entry, or the start in the glass, to the face that the ray leaves by; false when it
+  // ends there.
+  bool leaveGlass(const Line& line, Side entered) {
     const bool straight = entered != Side::None && !path_.meetings[0].refracts;
-    const bool ahead = line.start() < line.leave() && line.enter() <= line.leave();
-    if (!conditions_.outAsIn && !straight && !ahead) {
+    const bool mayBeTrapped = !conditions_.outAsIn && !straight;
+    if (mayBeTrapped && !(line.start() < line.leave() && line.enter() <= line.leave())) {
       go(Medium::Glass, at_.start);
       path_.ending = Ending::Trapped;
-      return;
+      return false;
     }
     const Side side = line.leaving();
-    const FacePoint exit = pointAt(line, side, false);
-    if (!go(Medium::Glass, exit.point)) return;
-    if (!conditions_.outAsIn && !straight && side == entered) {
+    const FacePoint exit = pointAt<false>(line, side);
+    if (!go(Medium::Glass, exit.point)) return false;
+    if (mayBeTrapped && side == entered) {
       path_.ending = Ending::Trapped;
-      return;
+      return false;
     }
-    if (cross(side, straight ? std::nullopt : exit.normal, lens_.n)) emerge();
+    return cross(side, straight ? std::nullopt : exit.normal, path_.n);
   }
 
   // Turns the direction at a face; false at total reflection.
@@ -166,7 +175,11 @@ class Walk {
   }
 
   void add(Medium medium, Point end) {
-    path_.pieces[static_cast<std::size_t>(path_.count++)] = {at_.start, end, at_.direction, medium};
+    Piece& piece = path_.pieces[static_cast<std::size_t>(path_.count++)];
+    piece.from = at_.start;
+    piece.to = end;
+    piece.direction = at_.direction;
+    piece.medium = medium;
     at_.start = end;
   }
 
@@ -199,7 +212,8 @@ class Walk {
     return stoppedBeforeLens(offset / at_.direction.x);
   }
 
-  const Lens& lens_;
+  const Left& left_;
+  const Right& right_;
   const Conditions& conditions_;
   RayPath& path_;
   Ray at_;  // the end of the way so far, and where it goes on to
@@ -211,7 +225,9 @@ RayPath trace(const Lens& lens, const Ray& ray, const Conditions& conditions, do
   RayPath path;
   path.n = lens.n;
   path.phase = phase;
-  Walk(lens, ray, conditions, path).run();
+  std::visit(
+      [&](const auto& left, const auto& right) { Walk(left, right, ray, conditions, path).run(); },
+      lens.left, lens.right);
   return path;
 }
 

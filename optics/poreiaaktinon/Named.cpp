@@ -44,16 +44,15 @@ bool circlesCross(const Fakos& fakos) {
   return tomikyklonaxona(fakos.xc1, fakos.xc2, fakos.R1, fakos.R2).found != 0;
 }
 
-light::Lens circlesOf(const Fakos& fakos) {
-  return {light::Circle{{fakos.xc2, 0.0}, fakos.R2}, light::Circle{{fakos.xc1, 0.0}, fakos.R1}};
-}
+light::Circle circle1(const Fakos& fakos) { return {{fakos.xc1, 0.0}, fakos.R1}; }
+light::Circle circle2(const Fakos& fakos) { return {{fakos.xc2, 0.0}, fakos.R2}; }
 
 // What both named searches find: the end of the first piece of the ray's path, when a face ends it.
 DiadromiApotelesma search(const Fakos& fakos, Point start, Point direction) {
   const DiadromiApotelesma none{start.x, start.y, boolean(false), 0};
   if (isZero(direction) || !circlesCross(fakos)) return none;
-  const light::RayPath path =
-      light::trace(circlesOf(fakos), {start, unit(direction)}, conditionsOf({}, {}));
+  const light::RayPath path = light::trace({circle2(fakos), circle1(fakos)},
+                                           {start, unit(direction)}, conditionsOf({}, {}));
   const Point end = path.pieces[0].to;
   if (path.meetings[0].face == light::Side::None || isZero(end)) return none;
   return {end.x, end.y, boolean(true), 0};
@@ -62,9 +61,8 @@ DiadromiApotelesma search(const Fakos& fakos, Point start, Point direction) {
 // True when the whole line meets both circles, behind the start too.
 bool lineMeetsBoth(const Fakos& fakos, Point start, Point direction) {
   if (isZero(direction)) return false;
-  const light::Lens lens = circlesOf(fakos);
   const light::Ray ray{start, unit(direction)};
-  return !glassSide(lens.left, ray).empty() && !glassSide(lens.right, ray).empty();
+  return !glassSide(circle1(fakos), ray).empty() && !glassSide(circle2(fakos), ray).empty();
 }
 
 // One ray to the edges of the canvas, with the diaphragm of the workbench.
@@ -138,7 +136,7 @@ SinglePair orioothonis(const Canvas& canvas, const Variant& x0, const Variant& y
   const double left = canvas.ScaleLeft();
   const double top = canvas.ScaleTop();
   const light::Edges edges{left, left + canvas.ScaleWidth(), top + canvas.ScaleHeight(), top};
-  const Point p = light::nearerEdge(edges, point(x0, y0), point(dx, dy));
+  const Point p = light::nearerEdge(edges, point(x0, y0), point(dx, dy)).point;
   return {toSingle(p.x), toSingle(p.y)};
 }
 
