@@ -17,6 +17,7 @@ int sign(double v) { return (v > 0.0) - (v < 0.0); }
 // along the ray are from the foot of the right chord, so that a start far away does not cost the
 // digits of the lens.
 struct Line {
+  Ray ray;
   Chord left;
   Chord right;
   double leftFoot = 0.0;
@@ -24,8 +25,9 @@ struct Line {
   double enterRight = 0.0;
 
   template <class Left, class Right>
-  Line(const Left& leftFace, const Right& rightFace, const Ray& ray)
-      : left(glassSide(leftFace, ray)),
+  Line(const Left& leftFace, const Right& rightFace, const Ray& along)
+      : ray(along),
+        left(glassSide(leftFace, ray)),
         right(glassSide(rightFace, ray)),
         leftFoot(dot(originOf(leftFace, ray) - originOf(rightFace, ray), ray.direction)),
         enterLeft(leftFoot + left.from),
@@ -112,8 +114,8 @@ class Walk {
     const auto distance = [](const Chord& chord) {
       return entering ? std::max(chord.start, chord.from) : chord.to;
     };
-    if (side == Side::Left) return pointOf(left_, at_, line.left, distance(line.left));
-    return pointOf(right_, at_, line.right, distance(line.right));
+    if (side == Side::Left) return pointOf(left_, line.ray, line.left, distance(line.left));
+    return pointOf(right_, line.ray, line.right, distance(line.right));
   }
 
   // From the entry, or the start in the glass, to the face that the ray leaves by; false when it
