@@ -116,6 +116,7 @@ class kelmo : public Form {
   Room room() const;
   void showDrag();
   void showDraggedEdge(double centre, int radius);
+  // Lets go what stands where it is seen.
   void release(const Drag& drag);
   // The drag is over, its previews are gone.
   Drag endDrag();

@@ -9,6 +9,10 @@ namespace {
 
 constexpr int shiftKey = 1;
 
+bool takesDiaphragm(Grab grab) {
+  return grab == Grab::UpperBlade || grab == Grab::LowerBlade || grab == Grab::Diaphragm;
+}
+
 void centreMarkerAt(Shape& marker, Point p) {
   marker.Left(p.x - marker.Width() / 2.0);
   marker.Top(p.y + marker.Height() / 2.0);
@@ -103,9 +107,10 @@ kelmo::Drag kelmo::endDrag() {
 
 void kelmo::dropDrag() {
   const Drag dropped = endDrag();
-  if (dropped.grab == Grab::None) return;
+  if (dropped.grab == Grab::Source) placeSource(dropped.pigi);
+  if (!takesDiaphragm(dropped.grab)) return;
   placeDiaphragm(dropped.diafragma);
-  placeSource(dropped.pigi);
+  slidersFollowBlades();
   // Waves that met the dragged blades go on as before.
   if (running()) showFronts();
 }
@@ -113,6 +118,7 @@ void kelmo::dropDrag() {
 void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
   drag_.at = {X, Y};
+  showDrag();
   release(endDrag());
   if (controls_.Check2.Value()) prepareWavesInTime();
 }
@@ -133,11 +139,9 @@ void kelmo::release(const Drag& drag) {
     case Grab::UpperBlade:
     case Grab::LowerBlade:
     case Grab::Diaphragm:
-      placeDiaphragm(releasedDiaphragm(drag.grab, drag.at, drag.diafragma, room()));
       slidersFollowBlades();
       return drawAnew();
     case Grab::Source:
-      placeSource(releasedSource(drag.at, room()));
       moveFan();
       return drawAnew();
   }

@@ -1,10 +1,9 @@
 // Fans and bundles of rays, and the waves that they carry over the workbench.
 #include <algorithm>
-#include <string>
 #include <utility>
 
-#include "canvas/RuntimeError.h"
 #include "canvas/qt/Dialogs.h"
+#include "optics/poreiaaktinon/Fronts.h"
 #include "screens/Answers.h"
 #include "screens/Shared.h"
 #include "screens/kelmo/kelmo.h"
@@ -19,22 +18,10 @@ using poreiaaktinon::Sent;
 using poreiaaktinon::Shown;
 using poreiaaktinon::WaveScene;
 
-// What a set may hold; its rays are numbered from 0 to 1500.
-constexpr int mostRays = 1501;
 // The interval of waves that are running, ms: as fast as they can be seen.
 constexpr int runningInterval = 1;
 constexpr int lastDrawnStep = 240;
 constexpr int longestRun = 500;  // interval in ms times ticks
-
-void requireRoomFor(int rays) {
-  if (rays <= mostRays) return;
-  const std::string count = std::to_string(rays);
-  const std::string limit = std::to_string(mostRays);
-  throw RuntimeError(RuntimeError::Code::SubscriptOutOfRange,
-                     "Ζητήθηκαν κύματα για " + count + " ακτίνες, αλλά το όριο είναι " + limit +
-                         ". Waves were asked for " + count + " rays, but the limit is " + limit +
-                         ".");
-}
 
 }  // namespace
 
@@ -80,7 +67,7 @@ void kelmo::startFan(Point source) {
 void kelmo::sendRays(const poreiaaktinon::Rays& rays) {
   Sent sent = poreiaaktinon::send(bench(), rays, edges());
   add(poreiaaktinon::Light{sent, provoli()});
-  if (sent.paths->size() <= mostRays) set_ = std::move(sent);
+  if (sent.paths->size() <= poreiaaktinon::mostRays) set_ = std::move(sent);
 }
 
 void kelmo::moveFan() {
@@ -110,7 +97,7 @@ void kelmo::parallilakymata_Click() {
 }
 
 void kelmo::kymatachronika_Click() {
-  requireRoomFor(poreiaaktinon::rayCount(vima()));
+  poreiaaktinon::requireRoomFor(static_cast<std::size_t>(poreiaaktinon::rayCount(vima())));
   startWaves(controls_.Timer1, controls_.Timer2, Fan{pigi(), vima()});
   controls_.kymatachronika.Checked(true);
   controls_.parallilakymata.Checked(false);
