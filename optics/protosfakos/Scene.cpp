@@ -1,5 +1,8 @@
 #include "optics/protosfakos/Scene.h"
 
+#include <cstddef>
+#include <utility>
+
 #include "optics/light/Vector.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/Lens.h"
@@ -24,7 +27,13 @@ struct Caster {
     traced.arnhtiko = traced.arnhtiko || arnhtiko(recorded, lens.n);
   }
 
+  void expect(std::size_t rays) {
+    traced.paths.reserve(rays);
+    traced.recorded.reserve(rays);
+  }
+
   void cast(const Fan& fan) {
+    expect(61);
     const Travel travel = fan.source.x < traced.a ? Travel::Right : Travel::Left;
     // Slopes 0.9, 0.87 .. -0.9, from whole hundredths so that the middle one is exactly 0.
     for (int hundredths = 90; hundredths >= -90; hundredths -= 3) {
@@ -33,6 +42,7 @@ struct Caster {
   }
 
   void cast(const Desmi& desmi, int rays) {
+    expect(static_cast<std::size_t>(rays));
     for (int i = 0; i < rays; ++i) {
       const double y = bundleTop - 2.0 * bundleTop * i / (rays - 1);
       const light::Ray ray = rayWithSlope({bundleX, y}, desmi.slope, Travel::Left);

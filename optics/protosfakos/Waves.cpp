@@ -10,8 +10,6 @@ namespace {
 
 // Optical path from one front to the next, which is their distance in air, user units.
 constexpr double frontSpacing = 4.0;
-// Longer than the optical path of the last front.
-constexpr double behindLens = 200.0;
 constexpr int lastRay = 600;
 
 light::Piece pieceBetween(Point from, Point to, light::Medium medium) {
@@ -27,7 +25,7 @@ light::RayPath pathOf(const Recorded& ray, Point start, double n) {
   const Point direction = norm > 0.0 ? (-1.0 / norm) * negated : Point{};
   light::RayPath path;
   path.pieces = {pieceBetween(start, ray.entry, Air), pieceBetween(ray.entry, ray.exit, Glass),
-                 light::Piece{ray.exit, ray.exit + behindLens * direction, direction, Air}};
+                 light::Piece{ray.exit, ray.exit + direction, direction, Air}};
   path.count = 3;
   path.n = n;
   return path;
@@ -55,9 +53,18 @@ void layFronts(Recorded& ray, Point start, double n) {
   if (n == 0.0) throwDivisionByZero();
   const light::RayPath path = pathOf(ray, start, n);
   ray.kymata[0] = start;
-  for (int j = 1; j <= lastFront; ++j) {
-    const auto point = light::pointAtOpticalPath(path, frontSpacing * (j - 1));
-    ray.kymata[static_cast<std::size_t>(j)] = point ? point->position : path.end();
+  double before = 0.0;  // optical path up to the piece
+  int j = 1;
+  for (const light::Piece& piece : path.pieces) {
+    const bool last = &piece == &path.pieces.back();
+    const double along = light::opticalLength(path, piece);
+    const Point step = (1.0 / light::indexOf(path, piece)) * piece.direction;
+    for (; j <= lastFront; ++j) {
+      const double rest = frontSpacing * (j - 1) - before;
+      if (rest > along && !last) break;
+      ray.kymata[static_cast<std::size_t>(j)] = piece.from + rest * step;
+    }
+    before += along;
   }
 }
 
