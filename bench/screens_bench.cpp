@@ -6,7 +6,6 @@
 // of the same size: what is left over it is tracing, reading the controls and showing the picture.
 #include <QApplication>
 
-#include "app/Screens.h"
 #include "bench/Compare.h"
 #include "canvas/Recording.h"
 #include "canvas/qt/RasterCanvas.h"
@@ -94,7 +93,12 @@ void fan(benchmark::State& state) {
   controls.desmi1.Value(static_cast<int>(state.range(0)));
   controls.arvimaton.Value(static_cast<int>(state.range(1)));
   controls.Check1.Value(state.range(2) != 0);
-  const auto send = [&] { desk.bench.Form_MouseDown(1, 1, -250, 40); };
+  // What is there already would not be drawn again.
+  double y = 40;
+  const auto send = [&] {
+    y = 81 - y;
+    desk.bench.Form_MouseDown(1, 1, -250, y);
+  };
   send();
   desk.measure(state, send);
   state.counters["rays"] = poreiaaktinon::rayCount(desk.bench.vima());
@@ -103,10 +107,15 @@ void fan(benchmark::State& state) {
 // A bundle of 151 rays with waves at an angle of range(0) degrees.
 void bundle(benchmark::State& state) {
   Desk desk;
-  const double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
+  double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
+  double turn = 0.001;  // what is there already would not be drawn again
   desk.bench.controls().desmi1.Value(150);
   desk.bench.controls().Check1.Value(true);
-  const auto send = [&] { desk.bench.drawBundle(angle); };
+  const auto send = [&] {
+    angle += turn;
+    turn = -turn;
+    desk.bench.drawBundle(angle);
+  };
   send();
   desk.measure(state, send);
   state.counters["rays"] = 151;
