@@ -86,7 +86,10 @@ void ElSahl::prepare() {
   AutoRedraw(true);
   Top(0);
   Left(0);
-  Height(QGuiApplication::primaryScreen()->geometry().height() * twipsPerPixel / 1.5);
+  const QScreen& display = *QGuiApplication::primaryScreen();
+  // On an upright display the square would be wider than that.
+  Height(twipsPerPixel *
+         std::min(display.geometry().height() / 1.5, 1.0 * display.availableGeometry().width()));
   Width(Height());
   openingSide_ = Height();
   Show();

@@ -18,8 +18,8 @@ class ElSahl : public Form {
   const protosfakos::Shown& shown() const { return easel_.shown(); }
 
   // What the lens menu does to this screen before it draws: a square window at the upper-left
-  // corner of the display, two thirds of the display high, shown with the scale of the lenses and
-  // the edges of the diaphragm at x = 130.
+  // corner of the display, two thirds of the display high and no wider than it, shown with the
+  // scale of the lenses and the edges of the diaphragm at x = 130.
   void prepare();
   // Clears and draws the fan of the shared source through the shared lens.
   void drawFan();

@@ -64,6 +64,14 @@ TEST_P(ElSahlBundle, RightAnglesDrawNoRayThroughTheLensAndRaiseNothing) {
   }
 }
 
+TEST_P(ElSahlBundle, AnAngleIsReadAsPeopleTypeIt) {
+  for (const char* answer : {"-12,5", "-12.5°", "−12,5 °", " −12.5"}) {
+    press(60, 60);
+    ask(answer);
+    EXPECT_TRUE(shows({bundle(std::tan(pi * (-12.5 / 180.0)))})) << answer;
+  }
+}
+
 TEST_P(ElSahlBundle, AnyAngleIsDrawn) {
   for (const char* answer :
        {"89.999", "-60", "120", "180", "-270", "1e6", "1e308", "-1e308", "0.0001"}) {
@@ -78,6 +86,15 @@ TEST_P(ElSahlBundle, WhatIsNoNumberIsTypeMismatch) {
     EXPECT_EQ(13, errorOf(answer)) << answer;
   }
   EXPECT_EQ(before, picture());
+}
+
+TEST_P(ElSahlBundle, TheErrorQuotesTheAnswer) {
+  try {
+    ask("αβγ");
+    ADD_FAILURE() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_NE(error.detail().find("αβγ"), std::string::npos) << error.detail();
+  }
 }
 
 TEST_P(ElSahlBundle, CancelChangesNothing) {
