@@ -39,11 +39,6 @@ Point MoniaktinaControls::source() const {
   return {fos.Left() + fos.Width() / 2.0, fos.Top() - fos.Height() / 2.0};
 }
 
-Point MoniaktinaControls::singleSource() const {
-  const Point p = source();
-  return {static_cast<float>(p.x), static_cast<float>(p.y)};
-}
-
 void MoniaktinaControls::placeSource(Point source) {
   fos.Left(source.x - fos.Width() / 2.0);
   fos.Top(source.y + fos.Height() / 2.0);

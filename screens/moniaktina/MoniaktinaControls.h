@@ -28,9 +28,8 @@ struct MoniaktinaControls {
   Shape fos;            // light source; its middle is the source
   EdgeMark sourceMark;  // while the source is out of sight
 
-  // The source, user units, and as the ray has it, in Singles.
+  // The source, user units.
   Point source() const;
-  Point singleSource() const;
   // Moves the source there.
   void placeSource(Point source);
 

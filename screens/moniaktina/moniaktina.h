@@ -56,8 +56,8 @@ class moniaktina : public Form {
   void lensChanged();
   // Draws over what is there.
   void push(poreiaaktinon::single::Layer layer);
-  // Clears and draws the ray from the source towards (xa, ya), with the line of its aim.
-  void sendRay(float xa, float ya);
+  // Clears and draws the ray from the source towards a point, with the line of its aim.
+  void sendRay(Point aim);
 
   Context context_;
   MoniaktinaControls controls_;

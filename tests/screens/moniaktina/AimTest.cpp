@@ -81,6 +81,25 @@ TEST_F(MoniaktinaAimTest, ReleaseClearsAndDrawsWithTheLensOfTheScrollBars) {
   EXPECT_EQ(screen.canvas().DrawWidth(), 1);
 }
 
+TEST_F(MoniaktinaAimTest, SourceAndAimAreSingles) {
+  screen.Form_MouseDown(1, 0, -150.1, 42.7);
+  screen.Form_MouseUp(1, 0, 30.3, -12.9);
+  const auto& layers = screen.shown().layers;
+  const auto& aim = std::get<poreiaaktinon::single::AimLine>(layers.front());
+  const auto& sent = std::get<poreiaaktinon::single::Ray>(layers.back()).sent;
+  const auto& ray = std::get<poreiaaktinon::SingleRay>(sent.rays);
+  const Point source{asSingle(middleOfFos().x), asSingle(middleOfFos().y)};
+  ASSERT_NE(source.x, middleOfFos().x);
+  for (const Point& start : {aim.from, ray.source}) {
+    EXPECT_EQ(start.x, source.x);
+    EXPECT_EQ(start.y, source.y);
+  }
+  EXPECT_EQ(aim.to.x, asSingle(30.3));
+  EXPECT_EQ(aim.to.y, asSingle(-12.9));
+  EXPECT_EQ(ray.direction.x, asSingle(asSingle(30.3) - source.x));
+  EXPECT_EQ(ray.direction.y, asSingle(asSingle(-12.9) - source.y));
+}
+
 TEST_F(MoniaktinaAimTest, ReleaseReadsTheStateFromTheScrollBars) {
   screen.deiktis = 9;
   screen.aktinaR1 = 9;

@@ -8,11 +8,15 @@ namespace lensbench {
 
 namespace single = poreiaaktinon::single;
 
+double asSingle(double v) {
+  // GCC 12 drops the rounding of two numbers that it finds side by side.
+  volatile float rounded = static_cast<float>(v);
+  return rounded;
+}
+
 namespace {
 
 Rgb rgb(QRgb pixel) { return RGB(qRed(pixel), qGreen(pixel), qBlue(pixel)); }
-// Points of the screen are Singles.
-double asSingle(double v) { return static_cast<double>(static_cast<float>(v)); }
 
 }  // namespace
 

@@ -9,6 +9,9 @@
 
 namespace lensbench {
 
+// Points of the screen are Singles.
+double asSingle(double v);
+
 class MoniaktinaTest : public ::testing::Test {
  protected:
   TestContext t;  // t.moves.opening: the diaphragm, wide open unless a test closes it
