@@ -170,7 +170,10 @@ class Walk {
     if (conditions_.diafragma && !conditions_.beforeLens) {
       const double X = conditions_.diafragma->X;
       const bool reached = !(X < at_.start.x && X < end.x) && !(X > at_.start.x && X > end.x);
-      if (reached && stoppedBy(*conditions_.diafragma, medium)) return false;
+      if (reached &&
+          stoppedAt(heightAt(*conditions_.diafragma, at_.start, at_.direction), medium)) {
+        return false;
+      }
     }
     add(medium, end);
     return true;
@@ -185,11 +188,11 @@ class Walk {
     at_.start = end;
   }
 
-  // Ends the path on the line of the diaphragm when the ray meets a blade there.
-  bool stoppedBy(const Diafragma& diafragma, Medium medium) {
-    const double y = heightAt(diafragma, at_.start, at_.direction);
-    if (!stops(diafragma, y)) return false;
-    add(medium, {diafragma.X, y});
+  // Ends the path on the line of the diaphragm when the ray, which crosses it at height y, meets a
+  // blade there.
+  bool stoppedAt(double y, Medium medium) {
+    if (!stops(*conditions_.diafragma, y)) return false;
+    add(medium, {conditions_.diafragma->X, y});
     path_.ending = Ending::Diaphragm;
     return true;
   }
@@ -202,7 +205,7 @@ class Walk {
     if (sign(offset) != (distance > 0.0 ? sign(at_.direction.x) : 0)) return false;
     const double crossing = offset == 0.0 ? 0.0 : offset / at_.direction.x;
     if (distance < crossing || !std::isfinite(crossing)) return false;
-    return stoppedBy(*conditions_.diafragma, Medium::Air);
+    return stoppedAt(at_.at(crossing).y, Medium::Air);
   }
 
   // The same for a ray that misses the lens; one that runs away from the plane up to which the
