@@ -1,12 +1,16 @@
 #include "canvas/qt/Form.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
+#include <QWindow>
 
 #include "canvas/qt/DrawingArea.h"
 #include "canvas/qt/MenuBar.h"
@@ -25,6 +29,9 @@ int shiftNumber(Qt::KeyboardModifiers keys) {
   return (keys.testFlag(Qt::ShiftModifier) ? 1 : 0) | (keys.testFlag(Qt::ControlModifier) ? 2 : 0) |
          (keys.testFlag(Qt::AltModifier) ? 4 : 0);
 }
+
+QPoint offset(const QMargins& frame) { return {frame.left(), frame.top()}; }
+QSize grownBy(const QMargins& frame) { return QSize(0, 0).grownBy(frame); }
 
 }  // namespace
 
@@ -45,16 +52,10 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   canvas().BackColor(RGB(background.red(), background.green(), background.blue()));
   canvas().Cls();
 
-  const auto report = [this](auto signal, Qt::MouseButtons buttons, const QMouseEvent* event) {
-    const Point user = canvas().mapping().toUser({event->position().x(), event->position().y()});
-    emit(this->*signal)(buttonNumber(buttons), shiftNumber(event->modifiers()), user.x, user.y);
-  };
-  connect(area_, &DrawingArea::pressed, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseDown, event->button(), event); });
-  connect(area_, &DrawingArea::moved, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseMove, event->buttons(), event); });
+  connect(area_, &DrawingArea::pressed, this, [this](QMouseEvent* event) { mousePressed(*event); });
+  connect(area_, &DrawingArea::moved, this, [this](QMouseEvent* event) { mouseMoved(*event); });
   connect(area_, &DrawingArea::released, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseUp, event->button(), event); });
+          [this](QMouseEvent* event) { mouseReleased(*event); });
   connect(area_, &DrawingArea::canvasResized, this, &Form::Resized);
 
   clientSize(design.width, design.height);
@@ -65,67 +66,178 @@ Form::~Form() = default;
 RasterCanvas& Form::canvas() noexcept { return area_->canvas(); }
 const RasterCanvas& Form::canvas() const noexcept { return area_->canvas(); }
 QWidget* Form::drawingArea() const noexcept { return area_; }
-DrawingArea& Form::area() noexcept { return *area_; }
 const QImage& Form::image() { return area_->image(); }
 
 void Form::Show() {
+  if (!isVisible() && !reachable()) keepOnDisplay();
   show();
+  // After it is shown: the toolkit maps a window that is no longer minimised.
+  if (isMinimized()) {
+    keepOrdinary();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+  }
   raise();
   activateWindow();
 }
 
-double Form::Left() const { return frameGeometry().x() * twipsPerPixel; }
-void Form::Left(double twips) { move(pixels(twips), frameGeometry().y()); }
-double Form::Top() const { return frameGeometry().y() * twipsPerPixel; }
-void Form::Top(double twips) { move(frameGeometry().x(), pixels(twips)); }
-double Form::Width() const { return frameGeometry().width() * twipsPerPixel; }
-void Form::Width(double twips) { outerSize({pixels(twips), frameGeometry().height()}); }
-double Form::Height() const { return frameGeometry().height() * twipsPerPixel; }
-void Form::Height(double twips) { outerSize({frameGeometry().width(), pixels(twips)}); }
+void Form::Hide() {
+  if (isVisible()) keepOrdinary();
+  hide();
+  // A window without a place of its own is placed anew when it is shown.
+  if (isOrdinary()) setGeometry(geometry());
+}
+
+// A window that is shown maximised anew takes the display's size for its ordinary one.
+void Form::keepOrdinary() {
+  if (isMaximized() && !ordinary_) ordinary_ = normalGeometry();
+}
+
+// The toolkit's own idea of the frame lags behind the changes of state that are asked for here.
+QRect Form::framed() const {
+  return isOrdinary() ? geometry().marginsAdded(frame_) : frameGeometry();
+}
+
+double Form::Left() const { return framed().x() * twipsPerPixel; }
+void Form::Left(double twips) {
+  makeOrdinary();
+  moveFrame({pixels(twips), framed().y()});
+}
+double Form::Top() const { return framed().y() * twipsPerPixel; }
+void Form::Top(double twips) {
+  makeOrdinary();
+  moveFrame({framed().x(), pixels(twips)});
+}
+double Form::Width() const { return framed().width() * twipsPerPixel; }
+void Form::Width(double twips) {
+  makeOrdinary();
+  outerSize({pixels(twips), framed().height()});
+}
+double Form::Height() const { return framed().height() * twipsPerPixel; }
+void Form::Height(double twips) {
+  makeOrdinary();
+  outerSize({framed().width(), pixels(twips)});
+}
 
 void Form::clientSize(double width, double height) {
-  client_ = QSize(pixels(width), pixels(height));
+  const QSize client(pixels(width), pixels(height));
   outer_.reset();
   settle();
-  resize(size() + *client_ - area_->size());
+  resize(size() + client - area_->size());
   settle();
+  if (!isVisible()) client_ = client;
 }
 
 void Form::outerSize(QSize size) {
   client_.reset();
   outer_ = size;
-  setWindowState(windowState() & ~Qt::WindowMaximized);
-  frame_ = frameGeometry().size() - geometry().size();
-  resize(size - frame_);
+  resize(size - grownBy(frame_));
   settle();
 }
 
-void Form::fitFrame() {
-  // The window manager adds its frame only when the window is mapped.
-  const QSize frame = frameGeometry().size() - geometry().size();
-  if (!outer_ || hadInput_ || isMaximized() || !isVisible() || frame == frame_) return;
-  frame_ = frame;
-  resize(*outer_ - frame_);
+void Form::moveFrame(QPoint upperLeft) {
+  written_ = upperLeft;
+  // Until its frame is known the toolkit itself takes the place for the frame's.
+  if (frame_.isNull()) {
+    move(upperLeft);
+  } else {
+    setGeometry({upperLeft + offset(frame_), size()});
+  }
+}
+
+bool Form::movedByHand() const { return written_ && framed().topLeft() != *written_; }
+
+bool Form::isOrdinary() const {
+  return !(windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
+}
+
+void Form::makeOrdinary() {
+  ordinary_.reset();
+  alone_ = false;
+  // A hidden window is restored when it is shown.
+  const Qt::WindowStates kept = isVisible() ? Qt::WindowNoState : Qt::WindowMinimized;
+  if (!isOrdinary()) setWindowState(windowState() & kept);
+}
+
+void Form::stateChanged() {
+  if (!isVisible() || !isOrdinary()) return;
+  if (ordinary_) setGeometry(*std::exchange(ordinary_, std::nullopt));
+  keepOnDisplay();
+  fitFrame();
 }
 
 void Form::fillDisplay() {
   client_.reset();
   outer_.reset();
-  setScreen(QGuiApplication::primaryScreen());
-  setWindowState(windowState() | Qt::WindowMaximized);
+  const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
+  if (isVisible() && !isOrdinary()) {
+    setWindowState(Qt::WindowMaximized);
+    return;
+  }
+  // A window is maximised on the display that it stands on.
+  if (!display.contains(geometry().center())) move(display.topLeft());
+  setWindowState(Qt::WindowMaximized);
+}
+
+// The window manager adds its frame when the window is first mapped. What is not as it was written
+// was changed by a person.
+void Form::fitFrame() {
+  if (!isVisible() || !isOrdinary()) return;
+  if (frame_.isNull()) {
+    frame_ = windowHandle()->frameMargins();
+    if (outer_ && size() == *outer_) resize(*outer_ - grownBy(frame_));
+  }
+  if (client_ && area_->size() == *client_) keepOnDisplay();
+}
+
+bool Form::reachable() const {
+  const QRect frame = frameGeometry();
+  return screen()->availableVirtualGeometry().contains(frame.center().x(), frame.top());
+}
+
+void Form::keepOnDisplay() {
+  if (!isOrdinary()) return;
+  const QRect room = screen()->availableVirtualGeometry();
+  const QRect frame = frameGeometry();
+  if (room.contains(frame)) return;
+  const QSize fitting = frame.size().boundedTo(room.size());
+  resize(fitting - (frame.size() - size()));
+  move(std::clamp(frame.x(), room.left(), room.right() + 1 - fitting.width()),
+       std::clamp(frame.y(), room.top(), room.bottom() + 1 - fitting.height()));
+}
+
+void Form::displayChanged() {
+  if (alone_) setGeometry(screen()->availableGeometry());
+  if (isVisible()) keepOnDisplay();
+}
+
+// Without a window manager nobody makes a maximised window as large as the display. One that is
+// there has put its frame around the window, or made it large, before it is seen.
+void Form::fillWithoutManager() {
+  if (!isMaximized() || !windowHandle()->frameMargins().isNull()) return;
+  constexpr int panel = 64;  // pixels, more than a panel of the desktop takes
+  const QRect room = screen()->availableGeometry();
+  const QSize missing = room.size() - size();
+  alone_ = std::max(std::abs(missing.width()), std::abs(missing.height())) > panel;
+  if (alone_) setGeometry(room);
 }
 
 void Form::addMenuEntry(QAction* entry) {
   menuBar()->addAction(entry);
   // The bar takes its height from the window and not from the client area.
-  if (client_ && !shown_)
-    clientSize(client_->width() * twipsPerPixel, client_->height() * twipsPerPixel);
+  if (client_) clientSize(client_->width() * twipsPerPixel, client_->height() * twipsPerPixel);
 }
 
 // Lays out at once, also while hidden, so that the canvas has its size before anything is drawn.
 void Form::settle() {
   layout()->invalidate();
   layout()->activate();
+  area_->fitCanvas();
+}
+
+void Form::followScreen(QScreen* screen) {
+  disconnect(display_);
+  if (screen == nullptr) return;
+  display_ = connect(screen, &QScreen::availableGeometryChanged, this, &Form::displayChanged);
   area_->fitCanvas();
 }
 
@@ -141,6 +253,39 @@ void Form::MousePointer(int shape) {
   }
 }
 
+void Form::report(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent& event) {
+  const Point user = canvas().mapping().toUser({event.position().x(), event.position().y()});
+  emit(this->*signal)(buttonNumber(buttons), shiftNumber(event.modifiers()), user.x, user.y);
+}
+
+void Form::mousePressed(const QMouseEvent& event) {
+  if (event.button() == Qt::LeftButton) {
+    endDrag();
+    dragging_ = true;
+  }
+  report(&Form::MouseDown, event.button(), event);
+}
+
+void Form::mouseMoved(const QMouseEvent& event) {
+  if (!event.buttons().testFlag(Qt::LeftButton)) endDrag();
+  report(&Form::MouseMove, event.buttons(), event);
+}
+
+void Form::mouseReleased(const QMouseEvent& event) {
+  if (event.button() == Qt::LeftButton) dragging_ = false;
+  report(&Form::MouseUp, event.button(), event);
+}
+
+void Form::endDrag() {
+  if (std::exchange(dragging_, false)) emit DragEnded();
+}
+
+bool Form::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked) endDrag();
+  if (event->type() == QEvent::WindowStateChange) stateChanged();
+  return QMainWindow::event(event);
+}
+
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
   emit CloseBox();
@@ -148,11 +293,17 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  if (!shown_) {
-    shown_ = true;
-    qApp->installEventFilter(this);
-  }
+  if (event->spontaneous()) return;
+  windowHandle()->installEventFilter(this);
+  connect(windowHandle(), &QWindow::screenChanged, this, &Form::followScreen, Qt::UniqueConnection);
+  followScreen(screen());
+  managerAwaited_ = true;
   fitFrame();
+}
+
+void Form::hideEvent(QHideEvent* event) {
+  QMainWindow::hideEvent(event);
+  endDrag();
 }
 
 void Form::resizeEvent(QResizeEvent* event) {
@@ -166,16 +317,17 @@ void Form::moveEvent(QMoveEvent* event) {
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* event) {
-  markInput(watched, *event);
+  if (watched == windowHandle()) {
+    // A window manager that there is has placed the window by now.
+    if (event->type() == QEvent::Expose && std::exchange(managerAwaited_, false)) {
+      QTimer::singleShot(0, this, [this] {
+        fillWithoutManager();
+        fitFrame();
+      });
+    }
+    return false;
+  }
   return QMainWindow::eventFilter(watched, event);
-}
-
-void Form::markInput(const QObject* watched, const QEvent& event) {
-  const bool press = event.type() == QEvent::KeyPress || event.type() == QEvent::MouseButtonPress ||
-                     event.type() == QEvent::MouseButtonDblClick;
-  if (hadInput_ || !press || !watched->isWidgetType()) return;
-  hadInput_ = static_cast<const QWidget*>(watched)->window() == this;
-  if (hadInput_) qApp->removeEventFilter(this);
 }
 
 }  // namespace lensbench
