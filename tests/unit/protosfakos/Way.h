@@ -71,7 +71,7 @@ inline bool isBiconvex(const light::Lens& lens) {
 
 // Unit normal at a point of a face, out of the glass; none at a vertex.
 inline std::optional<Point> normalAt(const light::Face& face, Point p) {
-  return light::pointOf(face, {p, {}, 0.0, 0.0, 0.0}, {}, 0.0).normal;
+  return std::visit([p](const auto& f) { return light::outwardNormal(f, p); }, face);
 }
 
 inline Way wayThrough(const light::Lens& lens, const light::Ray& ray, const Diafragma& diafragma) {
