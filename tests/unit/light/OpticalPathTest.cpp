@@ -1,16 +1,18 @@
 // Optical path and the points that a wave reaches.
 #include <gtest/gtest.h>
 
-#include "optics/poreiaaktinon/Wavefront.h"
-#include "tests/unit/poreiaaktinon/FakeWorkbench.h"
+#include "optics/light/OpticalPath.h"
+#include "optics/light/Tracer.h"
 
-namespace lensbench::poreiaaktinon {
+namespace lensbench::light {
 namespace {
 
 // 160 units of air, 80 of glass from x = -40 to x = 40, 360 of air.
-RayPath axial(double n = 1.5, double phase = 0.0) {
-  const OpticalSetup setup{{-60.0, 100.0, 60.0, 100.0}, n, std::nullopt, testEdges};
-  return tracePath(setup, {-200.0, 0.0}, {1.0, 0.0}, phase);
+RayPath axial(double n = 1.5, double phase = 0.0, double from = -200.0) {
+  const Lens lens{Circle{{60.0, 0.0}, 100.0}, Circle{{-60.0, 0.0}, 100.0}, n};
+  Conditions conditions;
+  conditions.end = Edges{-400.0, 400.0, -200.0, 200.0};
+  return trace(lens, {{from, 0.0}, {1.0, 0.0}}, conditions, phase);
 }
 
 double abscissa(const RayPath& path, double L) {
@@ -19,7 +21,7 @@ double abscissa(const RayPath& path, double L) {
 
 TEST(OpticalLength, CountsTheGlassNTimes) {
   EXPECT_NEAR(opticalLength(axial()), 160.0 + 120.0 + 360.0, 1e-12);
-  EXPECT_NEAR(opticalLength(axial(), 1), 120.0, 1e-12);
+  EXPECT_NEAR(opticalLength(axial(), axial().pieces[1]), 120.0, 1e-12);
 }
 
 TEST(PointAtOpticalPath, IsSlowerInTheGlass) {
@@ -30,17 +32,14 @@ TEST(PointAtOpticalPath, IsSlowerInTheGlass) {
   EXPECT_NEAR(abscissa(axial(0.5), 160.0 + 30.0), 20.0, 1e-12);
 }
 
-TEST(PointAtOpticalPath, SaysWhereOnItsWayTheWaveStands) {
+TEST(PointAtOpticalPath, SaysWhichFacesTheWaveHasCrossed) {
   const auto before = pointAtOpticalPath(axial(), 100.0);
   const auto inGlass = pointAtOpticalPath(axial(), 200.0);
   const auto behind = pointAtOpticalPath(axial(), 300.0);
   ASSERT_TRUE(before && inGlass && behind);
-  EXPECT_EQ(before->region, Region::BeforeLens);
   EXPECT_EQ(before->crossed, FacesCrossed{});
-  EXPECT_EQ(inGlass->region, Region::Glass);
-  EXPECT_EQ(inGlass->crossed, (FacesCrossed{Face::Left, Face::None}));
-  EXPECT_EQ(behind->region, Region::BehindLens);
-  EXPECT_EQ(behind->crossed, (FacesCrossed{Face::Left, Face::Right}));
+  EXPECT_EQ(inGlass->crossed, (FacesCrossed{Side::Left, Side::None}));
+  EXPECT_EQ(behind->crossed, (FacesCrossed{Side::Left, Side::Right}));
 }
 
 TEST(PointAtOpticalPath, IsNothingBeforeTheStartAndBeyondTheEnd) {
@@ -56,11 +55,10 @@ TEST(PointAtOpticalPath, CountsFromThePhase) {
 }
 
 TEST(PointAtOpticalPath, FromVeryFarKeepsItsDigitsInTheArea) {
-  const OpticalSetup setup{{-60.0, 100.0, 60.0, 100.0}, 1.5, std::nullopt, testEdges};
-  const RayPath path = tracePath(setup, {-1e12, 0.0}, {1.0, 0.0}, -1e12);
+  const RayPath path = axial(1.5, -1e12, -1e12);
   EXPECT_NEAR(abscissa(path, -60.0), -60.0, 1e-3);
   EXPECT_NEAR(abscissa(path, -40.0 + 60.0), 0.0, 1e-3);
 }
 
 }  // namespace
-}  // namespace lensbench::poreiaaktinon
+}  // namespace lensbench::light

@@ -4,7 +4,7 @@
 #include <random>
 
 #include "canvas/RuntimeError.h"
-#include "optics/poreiaaktinon/Intersection.h"
+#include "optics/poreiaaktinon/Named.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

@@ -1,11 +1,10 @@
-// What the tracing routines draw.
+// What rays and wave points are drawn as, and the named routines that trace and draw them.
 #include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Tracing.h"
+#include "optics/light/OpticalPath.h"
+#include "optics/poreiaaktinon/RayDrawing.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -106,18 +105,18 @@ TEST(Sxediasikymaton, WalksOnlyWhatTheAreaShows) {
   EXPECT_TRUE(bench.surface.operations().empty());
 }
 
-TEST(DrawPaths, DrawsWhatIsShown) {
+TEST(DrawLight, DrawsWhatIsShown) {
   FakeWorkbench bench;
-  const std::vector<RayPath> paths = bundlePaths(setupOf(bench), 0.0, 2);
-  drawPaths(bench.surface, paths, {true, false});
+  const Sent sent = send(bench.bench(), Desmi{0.0, 2}, testEdges);
+  drawLight(bench.surface, {sent, {true, false}});
   EXPECT_TRUE(bench.surface.operations(Kind::PSet).empty());
   EXPECT_EQ(bench.surface.operations(Kind::Line).size(), 5u);
   bench.surface.forget();
-  drawPaths(bench.surface, paths, {false, true});
+  drawLight(bench.surface, {sent, {false, true}});
   EXPECT_TRUE(bench.surface.operations(Kind::Line).empty());
   EXPECT_FALSE(bench.surface.operations(Kind::PSet).empty());
   bench.surface.forget();
-  drawPaths(bench.surface, paths, {true, true});
+  drawLight(bench.surface, {sent, {true, true}});
   EXPECT_EQ(bench.surface.operations()[0].kind, Kind::Line);
   EXPECT_EQ(bench.surface.operations()[1].kind, Kind::PSet);
 }
@@ -173,18 +172,53 @@ TEST(Poreiamiasaktinas, IsStoppedByTheDiaphragmOfTheWorkbench) {
   expectStop(own.operations()[1], -50, 40);
 }
 
-TEST(Workbench, IsAskedForOnlyWhenNeeded) {
-  EXPECT_FALSE(workbenchConnected());
-  int created = 0;
+TEST(ConnectedWorkbench, IsAskedForOnlyWhenNeeded) {
   FakeWorkbench bench;
-  connectWorkbench([&]() -> Workbench& {
-    ++created;
-    return bench;
-  });
-  EXPECT_TRUE(workbenchConnected());
-  EXPECT_EQ(created, 0);
-  EXPECT_EQ(workbench().deiktisdiathlasis(), 1.5);
-  EXPECT_EQ(created, 1);
+  int asked = 0;
+  connectWorkbench({[&]() -> Canvas& {
+                      ++asked;
+                      return bench.surface;
+                    },
+                    [&] { return bench.bench(); }, [] { return 30.0; }, [] { return Provoli{}; },
+                    [] { return Point{}; }});
+  EXPECT_EQ(asked, 0);
+  sxediasitoxou1(-50, 100, 20, 90, 0, 0);
+  EXPECT_EQ(asked, 1);
+}
+
+TEST(WavePoints, TakeTheColourOfTheStretchOfTheWay) {
+  FakeWorkbench bench;
+  const auto colours = [&](Point start, Point direction) {
+    bench.surface.forget();
+    drawWavePoints(bench.surface, tracePath(bench.bench(), start, direction));
+    std::vector<Rgb> seen;
+    for (const Operation& op : bench.surface.operations()) {
+      if (seen.empty() || seen.back() != op.colour) seen.push_back(op.colour);
+    }
+    return seen;
+  };
+  constexpr Rgb before = RGB(5, 0, 250);
+  constexpr Rgb glass = RGB(0, 155, 0);
+  constexpr Rgb behind = RGB(150, 0, 150);
+  EXPECT_EQ(colours({-200.0, 0.0}, {1.0, 0.0}), (std::vector<Rgb>{before, glass, behind}));
+  EXPECT_EQ(colours({-200.0, 150.0}, {1.0, 0.0}), (std::vector<Rgb>{before}));
+  // From within the glass there is no way before the lens.
+  EXPECT_EQ(colours({0.0, 0.0}, {1.0, 0.0}), (std::vector<Rgb>{glass, behind}));
+}
+
+TEST(WavePoints, NeverRestartTheirCountAtAFace) {
+  FakeWorkbench bench;
+  const light::RayPath path = tracePath(bench.bench(), {-203.0, 20.0}, {1.0, 0.02});
+  ASSERT_EQ(path.count, 3);
+  drawWavePoints(bench.surface, path);
+  const auto& drawn = bench.surface.operations();
+  ASSERT_EQ(drawn.size(), static_cast<std::size_t>(light::opticalLength(path) / 10.0) + 1);
+  for (std::size_t k = 0; k < drawn.size(); ++k) {
+    const auto place = light::pointAtOpticalPath(path, 10.0 * static_cast<double>(k));
+    ASSERT_TRUE(place);
+    EXPECT_NEAR(drawn[k].x1, place->position.x, 1e-9) << k;
+    EXPECT_NEAR(drawn[k].y1, place->position.y, 1e-9) << k;
+  }
 }
 
 }  // namespace

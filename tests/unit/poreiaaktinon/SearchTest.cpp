@@ -1,10 +1,9 @@
-// The search for the next point of the lens, and whether there is a lens.
+// The named searches for the next point of the lens.
 #include <cmath>
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
-#include "optics/light/Vector.h"
-#include "optics/poreiaaktinon/SurfaceSearch.h"
+#include "optics/poreiaaktinon/Named.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -143,6 +142,34 @@ TEST(Diadromiaktinas, SetsTheWorkbenchPenOnlyWhereTheLineMeetsBothCircles) {
   EXPECT_EQ(bench.surface.DrawWidth(), 1);
 }
 
+TEST(Diadromiaktinas, LeavesThePenAloneWithoutALens) {
+  FakeWorkbench bench;
+  bench.surface.DrawWidth(9);
+  DiadromiApotelesma result;
+  // Circles apart, coincident, and one within the other; each line below meets both of them.
+  diadromiaktinas(result, -60, 500, 100, 100, 1, 0, -500, 3, 7);
+  diadromiaktinas(result, -60, -60, 100, 100, 1, 0, -500, 3, 7);
+  diadromiaktinas(result, 0, 20, 200, 50, 1, 0, -500, 0, 7);
+  EXPECT_EQ(bench.surface.DrawWidth(), 9);
+}
+
+TEST(Diadromiaktinas, StartOnTheRightFaceDoesNotFindItselfAgain) {
+  for (const double off : {-0.049, 0.0, 0.049}) {
+    expectFound(from(40 + off, 0, -1, 0), -40.0, 0.0);
+    expectNotFound(from(40 + off, 0, 1, 0), 40.0 + off, 0.0);
+  }
+  expectFound(from(40.051, 0, -1, 0), 40.0, 0.0);
+  expectFound(from(39.949, 0, 1, 0), 40.0, 0.0);
+  // Along the tangent it has left the lens, although its line has a chord.
+  expectNotFound(from(39.99, 0, 0, 1), 39.99, 0.0);
+  expectNotFound(from(-39.99, 0, 0, 1), -39.99, 0.0);
+}
+
+TEST(Diadromiaktinas, NeedsNoWorkbench) {
+  connectWorkbench({});
+  expectFound(from(-500, 0, 1, 0), -40.0, 0.0);
+}
+
 TEST(Diadromiaktinas2, IsTheSameSearchWithoutATag) {
   FakeWorkbench bench;
   bench.surface.DrawWidth(9);
@@ -152,38 +179,6 @@ TEST(Diadromiaktinas2, IsTheSameSearchWithoutATag) {
   EXPECT_NEAR(result.x, -20.0, 1e-12);
   EXPECT_EQ(result.tag, 0);
   EXPECT_EQ(bench.surface.DrawWidth(), 9);
-}
-
-TEST(FirstCrossing, SaysFaceNormalAndSense) {
-  const Fakos lens{-60.0, 100.0, 60.0, 100.0};
-  const auto entry = firstCrossing(lens, {-500.0, 60.0}, {1.0, 0.0});
-  ASSERT_TRUE(entry);
-  EXPECT_EQ(entry->face, Face::Left);
-  EXPECT_TRUE(entry->entering);
-  EXPECT_NEAR(entry->normal.x, -0.8, 1e-15);
-  EXPECT_NEAR(entry->normal.y, 0.6, 1e-15);
-  const Crossing exit = exitCrossing(lens, entry->point, {1.0, 0.0});
-  EXPECT_EQ(exit.face, Face::Right);
-  EXPECT_FALSE(exit.entering);
-  EXPECT_NEAR(exit.point.x, 20.0, 1e-12);
-}
-
-TEST(FirstCrossing, ABallIsEnteredAndLeftByTheSameFace) {
-  const Fakos ball{-450.0, 500.0, 0.0, 50.0};  // circle 2 touches circle 1 from inside
-  const auto entry = firstCrossing(ball, {-300.0, 10.0}, {1.0, 0.0});
-  ASSERT_TRUE(entry);
-  EXPECT_EQ(entry->face, Face::Left);
-  EXPECT_EQ(exitCrossing(ball, entry->point, {1.0, 0.0}).face, Face::Left);
-}
-
-TEST(HasLens, AsksForGlassBetweenCrossingCircles) {
-  EXPECT_TRUE(hasLens({-50.0, 100.0, 20.0, 90.0}));
-  EXPECT_TRUE(hasLens({-450.0, 500.0, 0.0, 50.0}));     // tangent inside: a ball
-  EXPECT_FALSE(hasLens({-50.0, 100.0, 200.0, 150.0}));  // tangent outside
-  EXPECT_FALSE(hasLens({-50.0, 100.0, 300.0, 90.0}));
-  EXPECT_FALSE(hasLens({0.0, 500.0, 20.0, 90.0}));
-  EXPECT_FALSE(hasLens({0.0, 100.0, 0.0, 100.0}));
-  EXPECT_FALSE(hasLens({-50.0, 100.0, 50.0, 0.0}));
 }
 
 }  // namespace
