@@ -1,11 +1,12 @@
 #include "canvas/qt/DrawingArea.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 
-#include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Overlay.h"
 
 namespace lensbench {
@@ -20,6 +21,7 @@ DrawingArea::DrawingArea(QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   connect(&canvas_, &RasterCanvas::pictureChanged, this, &DrawingArea::wantFrame);
+  connect(&canvas_, &RasterCanvas::pictureLost, this, &DrawingArea::stale);
   connect(&canvas_, &RasterCanvas::scaleReplaced, this, &DrawingArea::keepOverlaysInPlace);
   wantFrame();
 }
@@ -65,50 +67,63 @@ bool DrawingArea::event(QEvent* event) {
   frameWanted_ = false;
   // What nobody can see is drawn when it is seen again.
   if (isVisible() && !window()->isMinimized()) {
-    frame();
+    frame({});
   } else {
     update();
   }
   return true;
 }
 
-void DrawingArea::frame() {
+void DrawingArea::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  strip_ = {};
+  // Without anyone who draws it anew a picture is kept.
+  if (draw_) canvas_.giveUpPixels();
+}
+
+void DrawingArea::frame(const QRegion& painted) {
   bringUpToDate();
-  const QRect dirty = canvas_.takeDirty();
-  if (dirty.isEmpty()) return;
-  const int k = canvas_.oversampling();
-  const QRect device(QPoint(dirty.left() / k, dirty.top() / k),
-                     QPoint(dirty.right() / k, dirty.bottom() / k));
-  if (k > 1) {
-    const QSize size = canvas_.image().size() / k;
-    if (display_.size() != size) display_ = QImage(size, QImage::Format_RGB32);
-    boxFilter(canvas_.image(), display_, device, k);
-  } else {
-    display_ = {};
-  }
   const double ratio = canvas_.devicePixelRatio();
-  update(QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
-                device.height() / ratio)
-             .toAlignedRect());
+  QRegion logical;
+  for (const QRect& part : canvas_.takeDirty()) {
+    logical +=
+        QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
+            .toAlignedRect();
+  }
+  update(logical - painted);
 }
 
 void DrawingArea::paintEvent(QPaintEvent* event) {
   if (canvas_.devicePixelRatio() != devicePixelRatioF()) fitCanvas();
-  frame();
-  const QImage& picture = canvas_.oversampling() > 1 ? display_ : canvas_.image();
-  const double ratio = canvas_.devicePixelRatio();
+  frame(event->region());
   QPainter painter(this);
-  for (const QRect& part : event->region()) {
-    const QRectF device(part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                        part.height() * ratio);
-    painter.drawImage(QRectF(part), picture, device);
-  }
+  for (const QRect& part : event->region()) paintPicture(painter, part);
   painter.setRenderHint(QPainter::Antialiasing);
   // As on the canvas, a point stands in the middle of its pixel.
   painter.translate(0.5, 0.5);
   for (const Overlay* overlay : findChildren<Overlay*>(Qt::FindDirectChildrenOnly)) {
     if (overlay->Visible()) overlay->paint(painter);
   }
+}
+
+// Pixel by pixel of the display, whatever its ratio.
+void DrawingArea::paintPicture(QPainter& painter, const QRect& part) {
+  const double ratio = canvas_.devicePixelRatio();
+  const QRect device =
+      QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
+          .toAlignedRect() &
+      QRect(QPoint(0, 0), canvas_.displaySize());
+  // As much as stays in a cache.
+  constexpr int stripHeight = 32;
+  painter.save();
+  painter.scale(1.0 / ratio, 1.0 / ratio);
+  for (int y = device.top(); y <= device.bottom(); y += stripHeight) {
+    const QSize size(device.width(), std::min(stripHeight, device.bottom() + 1 - y));
+    if (strip_.size() != size) strip_ = QImage(size, QImage::Format_RGB32);
+    canvas_.showIn(strip_, {device.left(), y});
+    painter.drawImage(device.left(), y, strip_);
+  }
+  painter.restore();
 }
 
 void DrawingArea::keepOverlaysInPlace(const UserMapping& old) {

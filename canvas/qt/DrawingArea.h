@@ -8,6 +8,8 @@
 
 #include "canvas/qt/RasterCanvas.h"
 
+class QPainter;
+
 namespace lensbench {
 
 class DrawingArea : public QWidget {
@@ -41,6 +43,7 @@ class DrawingArea : public QWidget {
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent*) override { fitCanvas(); }
+  void hideEvent(QHideEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override { emit pressed(event); }
   void mouseMoveEvent(QMouseEvent* event) override { emit moved(event); }
   void mouseReleaseEvent(QMouseEvent* event) override { emit released(event); }
@@ -48,11 +51,13 @@ class DrawingArea : public QWidget {
  private:
   void wantFrame();
   void bringUpToDate();
-  void frame();
+  // Brings the picture up to date and shows what has changed outside what is being painted anyway.
+  void frame(const QRegion& painted);
+  void paintPicture(QPainter& painter, const QRect& part);
   void keepOverlaysInPlace(const UserMapping& old);
 
   RasterCanvas canvas_;
-  QImage display_;  // the picture in device pixels
+  QImage strip_;  // of the display, on its way there
   std::function<void()> draw_;
   bool stale_ = false;
   bool drawing_ = false;
