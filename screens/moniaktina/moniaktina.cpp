@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include "canvas/Format.h"
 #include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
@@ -62,7 +65,16 @@ void moniaktina::connectHandlers() {
 
 void moniaktina::fitDisplay() {
   fillDisplay();
-  scaleToClientArea(*this);
+  const bool firstTime = !canvas().hasUserScale();
+  const double x = controls_.fos.Left() + controls_.fos.Width() / 2.0;
+  const double y = controls_.fos.Top() + controls_.fos.Height() / 2.0;
+  resized();
+  if (!firstTime) return;
+  // The window is as large as the display only once it is shown; there the source stands where it
+  // is designed, in twips down from the upper left.
+  const QSizeF display = twipsPerPixel * QGuiApplication::primaryScreen()->availableSize();
+  const double unit = (display.width() + display.height()) / 1200.0;
+  controls_.placeSource({(x - display.width() / 2.0) / unit, (display.height() / 2.0 - y) / unit});
 }
 
 void moniaktina::resized() {
