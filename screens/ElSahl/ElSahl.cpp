@@ -70,6 +70,7 @@ void ElSahl::connectHandlers() {
   on<Form>(actions, *this, &Form::MouseDown, *this, &ElSahl::Form_MouseDown);
   on<Form>(actions, *this, &Form::MouseMove, *this, &ElSahl::Form_MouseMove);
   on<Form>(actions, *this, &Form::MouseUp, *this, &ElSahl::Form_MouseUp);
+  on<Form>(actions, *this, &Form::DragEnded, *this, &ElSahl::dragEnded);
   on<Form>(actions, *this, &Form::Resized, *this, &ElSahl::resized);
   on<Form>(actions, *this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
   on(actions, c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
@@ -91,7 +92,7 @@ void ElSahl::prepare() {
   Height(twipsPerPixel *
          std::min(display.geometry().height() / 1.5, 1.0 * display.availableGeometry().width()));
   Width(Height());
-  openingSide_ = Height();
+  side_ = Height();
   Show();
   resized();
   strokesAt(strokeX);
@@ -104,19 +105,17 @@ void ElSahl::resized() {
 }
 
 void ElSahl::fitScale() {
-  const double W = canvas().size().width();
-  const double H = canvas().size().height();
-  if (Width() == openingSide_ && Height() == openingSide_) {
-    canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom);
-    unitRatio_ = W / (scaleRight - scaleLeft) / (H / (scaleTop - scaleBottom));
-    return;
-  }
-  const double xPixels =
-      std::min(W / (scaleRight - scaleLeft), unitRatio_ * H / (scaleTop - scaleBottom));
-  const double halfWidth = W / xPixels / 2.0;
-  const double halfHeight = H / xPixels * unitRatio_ / 2.0;
-  const double middle = (scaleLeft + scaleRight) / 2.0;
-  canvas().Scale(middle - halfWidth, halfHeight, middle + halfWidth, -halfHeight);
+  const QSizeF now = canvas().size();
+  if (Width() == side_ && Height() == side_) opening_ = now;
+  if (now == opening_) return canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom);
+  // The box grows as the window does, in the direction in which that grows less.
+  const double growth = std::min(now.width() / opening_.width(), now.height() / opening_.height());
+  const double width = (scaleRight - scaleLeft) * now.width() / opening_.width() / growth;
+  const double height = (scaleTop - scaleBottom) * now.height() / opening_.height() / growth;
+  const double middleX = (scaleLeft + scaleRight) / 2.0;
+  const double middleY = (scaleTop + scaleBottom) / 2.0;
+  canvas().Scale(middleX - width / 2.0, middleY + height / 2.0, middleX + width / 2.0,
+                 middleY - height / 2.0);
 }
 
 void ElSahl::clear() {
@@ -161,10 +160,8 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   drawFan();
 }
 
-void ElSahl::Form_MouseMove(int Button, int /*Shift*/, double X, double Y) {
+void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   const Point p{X, Y};
-  // A release that the window never saw leaves a move without the button behind.
-  if ((Button & leftButton) == 0) dropEdge();
   if (dragging()) dragTo(p);
   const bool onEdge = syromenigrammi1 || controls_.onUpperEdge(p) || controls_.onLowerEdge(p);
   MousePointer(onEdge ? cross : arrow);
@@ -183,15 +180,10 @@ void ElSahl::dragTo(Point p) {
   placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, reach()));
 }
 
-void ElSahl::dropEdge() {
+void ElSahl::dragEnded() {
   if (dragging()) placeEdges(atPress_);
   syromenigrammi1 = false;
   syromenigrammi2 = false;
-}
-
-void ElSahl::hideEvent(QHideEvent* event) {
-  dropEdge();
-  Form::hideEvent(event);
 }
 
 Reach ElSahl::reach() const {
@@ -221,7 +213,6 @@ void ElSahl::kymatikosahl_Click() {
 }
 
 void ElSahl::parallilidesmifotos_Click() {
-  dropEdge();
   const auto answer =
       context_.dialogs.InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
                                 QStringLiteral("Angle in °"), QStringLiteral("0"));
@@ -278,10 +269,8 @@ bool ElSahl::hasLens() const {
 }
 
 bool ElSahl::hasLensOr(const QString& message) {
-  if (hasLens()) return true;
-  dropEdge();
-  context_.dialogs.MsgBox(message);
-  return false;
+  if (!hasLens()) context_.dialogs.MsgBox(message);
+  return hasLens();
 }
 
 }  // namespace lensbench

@@ -44,12 +44,10 @@ class ElSahl : public Form {
   bool syromenigrammi1 = false;  // syromeni grammi: the upper edge is being dragged
   bool syromenigrammi2 = false;  // the lower edge is being dragged
 
- protected:
-  void hideEvent(QHideEvent* event) override;
-
  private:
   void connectHandlers();
-  // The box of the lenses whole in the drawing area.
+  // The box of the lenses whole in the middle of the drawing area, with the ratio of the units that
+  // the window opens with.
   void fitScale();
   void resized();
   void clear();
@@ -59,8 +57,8 @@ class ElSahl : public Form {
   Reach reach() const;
   bool dragging() const { return syromenigrammi1 || syromenigrammi2; }
   void dragTo(Point p);
-  // Ends a drag that no release has ended; the edges go back to where they were taken.
-  void dropEdge();
+  // The edges go back to where they were taken.
+  void dragEnded();
   // Takes the hint away, which would only cover the picture.
   void hintUsed();
   protosfakos::Asked asked(const protosfakos::Rays& rays) const;
@@ -74,9 +72,9 @@ class ElSahl : public Form {
   Context context_;
   SahlControls controls_;
   Easel<protosfakos::Shown> easel_{*this};
-  light::Diafragma atPress_;  // as the diaphragm was when the mouse took an edge
-  double openingSide_ = 0.0;  // of the window, twips
-  double unitRatio_ = 1.0;    // a unit in x over one in y on the screen, as the window opened
+  light::Diafragma atPress_;          // as the diaphragm was when the mouse took an edge
+  double side_ = 0.0;                 // of the window with its frame, as it opens, twips
+  QSizeF opening_ = canvas().size();  // of the drawing area then, logical pixels
 };
 
 }  // namespace lensbench

@@ -53,6 +53,7 @@ void moniaktina::connectHandlers() {
   on<Form>(actions, *this, &Form::MouseDown, *this, &moniaktina::Form_MouseDown);
   on<Form>(actions, *this, &Form::MouseMove, *this, &moniaktina::Form_MouseMove);
   on<Form>(actions, *this, &Form::MouseUp, *this, &moniaktina::Form_MouseUp);
+  on<Form>(actions, *this, &Form::DragEnded, *this, &moniaktina::dragEnded);
   on<Form>(actions, *this, &Form::Resized, *this, &moniaktina::resized);
   on<Form>(actions, *this, &Form::CloseBox, *this, &moniaktina::Command1_Click);
   on(actions, c.aktina1, &ScrollBar::Change, *this, &moniaktina::aktina1_Change);
@@ -86,10 +87,7 @@ void moniaktina::resized() {
   easel_.show(single::fittedTo(light::edgesOf(canvas()), easel_.shown()));
 }
 
-void moniaktina::hideEvent(QHideEvent* event) {
-  controls_.aim.Visible(false);
-  Form::hideEvent(event);
-}
+void moniaktina::dragEnded() { controls_.aim.Visible(false); }
 
 void moniaktina::push(single::Layer layer) {
   single::Shown next = easel_.shown();
@@ -151,11 +149,8 @@ void moniaktina::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   controls_.aim.Visible(true);
 }
 
-void moniaktina::Form_MouseMove(int Button, int /*Shift*/, double X, double Y) {
-  LineControl& aim = controls_.aim;
-  // A release that the window never saw leaves a move without the button behind.
-  if ((Button & leftButton) == 0) aim.Visible(false);
-  if (aim.Visible()) aim.between(controls_.source(), {X, Y});
+void moniaktina::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
+  if (controls_.aim.Visible()) controls_.aim.between(controls_.source(), {X, Y});
 }
 
 void moniaktina::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {

@@ -47,11 +47,9 @@ class moniaktina : public Form {
   Variant kentro2;   // centre of circle 2 on the axis, user units
   Variant deiktis;   // index of refraction
 
- protected:
-  void hideEvent(QHideEvent* event) override;
-
  private:
   void connectHandlers();
+  void dragEnded();
   void resized();
   void lensChanged();
   // Draws over what is there.

@@ -123,7 +123,7 @@ TEST_F(ElSahlResize, EdgesOutOfSightAreMarkedAndCanBeTaken) {
     QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(middle.x, middle.y));
     EXPECT_EQ(upper, screen.syromenigrammi1);
     EXPECT_EQ(!upper, screen.syromenigrammi2);
-    screen.Form_MouseMove(0, 0, 0, 0);
+    emit screen.DragEnded();
   }
   press(c.mark1.Left(), c.mark1.Top());
   release(100, 30);
@@ -179,7 +179,8 @@ class ElSahlLaw : public ElSahlFixture, public ::testing::WithParamInterface<uns
         press(c.Line1.X1(), from(0, 1) == 0 ? c.Line1.Y2() : c.Line2.Y2());
         break;
       case 2:
-        screen.Form_MouseMove(from(0, 1), 0, near(), near());
+        screen.Form_MouseMove(1, 0, near(), near());
+        if (from(0, 1) == 0) emit screen.DragEnded();
         break;
       case 3:
         release(near(), near());

@@ -33,7 +33,8 @@ class MoniaktinaLaw : public MoniaktinaTest, public ::testing::WithParamInterfac
         screen.Form_MouseDown(1, 0, x(), x());
         break;
       case 5:
-        screen.Form_MouseMove(from(0, 1), 0, x(), x());
+        screen.Form_MouseMove(1, 0, x(), x());
+        if (from(0, 1) == 0) emit screen.DragEnded();
         break;
       case 6:
         // Never straight above or below the source, whose middle lies between whole tenths.
