@@ -46,6 +46,7 @@ void kelmo::connectHandlers() {
   on(form, &Form::MouseDown, &kelmo::Form_MouseDown);
   on(form, &Form::MouseMove, &kelmo::Form_MouseMove);
   on(form, &Form::MouseUp, &kelmo::Form_MouseUp);
+  on(form, &Form::DragEnded, &kelmo::dropDrag);
   on(form, &Form::Resized, &kelmo::resized);
   on(form, &Form::CloseBox, &kelmo::TELIOMA_Click);
   on(c.aktina1, &ScrollBar::Change, &kelmo::aktina1_Change);
@@ -102,11 +103,6 @@ void kelmo::resized() {
   showDrag();
   if (set_) set_ = poreiaaktinon::resent(*set_, set_->bench, edges());
   easel_.show(poreiaaktinon::fittedTo(edges(), shown()));
-}
-
-void kelmo::hideEvent(QHideEvent* event) {
-  dropDrag();
-  Form::hideEvent(event);
 }
 
 double kelmo::vima() const {

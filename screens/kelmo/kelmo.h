@@ -80,9 +80,6 @@ class kelmo : public Form {
 
   Variant gonia;  // angle of the last bundle with the horizontal, radians
 
- protected:
-  void hideEvent(QHideEvent* event) override;
-
  private:
   void connectHandlers();
   void resized();

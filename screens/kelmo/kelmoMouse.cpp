@@ -25,7 +25,6 @@ void kelmo::Form_Click() {}
 
 void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   if (Button != leftButton) return;
-  dropDrag();
   const Point p{X, Y};
   drag_ = {grabbedAt(p), p, p, diafragma(), pigi()};
   if ((Shift & shiftKey) == 0) return drawAnew();
@@ -57,9 +56,7 @@ Room kelmo::room() const {
   return room;
 }
 
-void kelmo::Form_MouseMove(int Button, int /*Shift*/, double X, double Y) {
-  // The window may never see the release.
-  if ((Button & leftButton) == 0) return dropDrag();
+void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   drag_.at = {X, Y};
   showDrag();
 }

@@ -26,7 +26,6 @@ constexpr int longestRun = 500;  // interval in ms times ticks
 }  // namespace
 
 void kelmo::EPANALIPSI_Click() {
-  dropDrag();
   // Asked first, so that a cancelled question changes nothing at all.
   const auto answer = context_.dialogs.InputBox(
       QStringLiteral("Give angle with horizontal direction: -90<φ<90"), {}, QStringLiteral("0"));
