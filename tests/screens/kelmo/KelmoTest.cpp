@@ -15,7 +15,10 @@ KelmoTest::KelmoTest() {
   screen.canvas().setOversampling(1);
   screen.setWindowState(Qt::WindowNoState);
   screen.show();
+  QApplication::processEvents();
   giveSize(usualSize);
+  // Larger than the display, but not out of its reach: it is not fitted to it when it comes back.
+  screen.move(-usualSize.width() / 4, 0);
 }
 
 void KelmoTest::giveSize(QSize client) {
