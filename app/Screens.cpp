@@ -7,6 +7,7 @@
 #include "canvas/qt/Dialogs.h"
 #include "optics/poreiaaktinon/Named.h"
 #include "optics/protosfakos/Named.h"
+#include "screens/DisplayScale.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/Texts.h"
 #include "screens/eisagogiko/eisagogiko.h"
@@ -57,7 +58,11 @@ void Screens::openSingleRay() {
   moniaktina().Show();
 }
 
-void Screens::openLensMenu() { eisagogiko().Show(); }
+void Screens::openLensMenu() {
+  // So that the index and the picture can be in sight together.
+  placeBeside(eisagogiko(), squareSide());
+  eisagogiko().Show();
+}
 
 void Screens::leaveSingleRay() {
   moniaktina().Hide();
@@ -75,7 +80,7 @@ void Screens::drawIbnSahl() { ElSahl().drawFan(); }
 
 void Screens::leaveIbnSahl() {
   ElSahl().Hide();
-  eisagogiko().Show();
+  openLensMenu();
 }
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }

@@ -4,9 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include <QGuiApplication>
-#include <QScreen>
-
 #include "canvas/qt/Dialogs.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "screens/Answers.h"
@@ -87,10 +84,7 @@ void ElSahl::prepare() {
   AutoRedraw(true);
   Top(0);
   Left(0);
-  const QScreen& display = *QGuiApplication::primaryScreen();
-  // On an upright display the square would be wider than that.
-  Height(twipsPerPixel *
-         std::min(display.geometry().height() / 1.5, 1.0 * display.availableGeometry().width()));
+  Height(squareSide());
   Width(Height());
   side_ = Height();
   Show();
@@ -99,6 +93,7 @@ void ElSahl::prepare() {
 }
 
 void ElSahl::resized() {
+  controls_.placeOptions(canvas().size().width());
   const Diafragma before = diafragma();
   fitScale();
   placeEdges(before);

@@ -31,12 +31,13 @@ struct SahlControls {
   // Whether the mouse is on an edge or on its mark; user units.
   bool onUpperEdge(Point p) const { return Line1.isAt(p) || mark1.isAt(p); }
   bool onLowerEdge(Point p) const { return Line2.isAt(p) || mark2.isAt(p); }
-  // Where the option buttons end, logical pixels.
+  // Puts the option buttons into an area of this width; all figures in logical pixels.
+  void placeOptions(int width);
+  // Where the option buttons end.
   double optionsBottom() const;
 
  private:
   void setTexts();
-  void placeOptions();
   void describeAll();
 };
 

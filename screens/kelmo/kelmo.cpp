@@ -30,7 +30,7 @@ kelmo::kelmo(const Context& context)
   setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
   describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
   // Below this the controls would stand on each other.
-  setMinimumSize(640, 480);
+  setMinimumSize(600, 320);
   canvas().FontName("Symbol");
   canvas().FontSize(7.5);
   connectHandlers();

@@ -30,6 +30,7 @@ MoniaktinaControls::MoniaktinaControls(Form& form)
       sourceMark(form, "sourceMark", sourceColour) {
   setRanges();
   setLooks();
+  placeBars();
   makeRoomForTexts();
   describeAll();
   setTabOrder();
@@ -65,6 +66,16 @@ void MoniaktinaControls::setLooks() {
   fos.FillColor(sourceColour);
   aim.BorderStyle(BorderStyle::Dotted);
   aim.Visible(false);
+}
+
+// Flush, one under the other, and inside the window.
+void MoniaktinaControls::placeBars() {
+  constexpr int rowHeight = 24;  // pixels
+  for (ScrollBar* bar : {&aktina2, &aktina1, &deiktisdiathlasis, &kentrokykloy}) {
+    const QRect place = bar->geometry();
+    bar->setGeometry(QRect(QPoint(std::max(place.left(), 0), place.top()), place.bottomRight()));
+    bar->resize(bar->width(), rowHeight);
+  }
 }
 
 void MoniaktinaControls::makeRoomForTexts() {

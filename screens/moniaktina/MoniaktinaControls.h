@@ -37,6 +37,7 @@ struct MoniaktinaControls {
   void setRanges();
   void setLooks();
   void describeAll();
+  void placeBars();
   void makeRoomForTexts();
   void setTabOrder();
 };

@@ -149,8 +149,13 @@ TEST_F(ScaleTest, AMarkThatIsTakenAndNotLetGoChangesNothing) {
   EXPECT_EQ(screen.ypigi(), 100.0);
 }
 
+// What is left of a display for the drawing area, from a large one to one of 640 x 480, one of
+// 1366 x 768 at pixel ratio 2, one of 1024 x 600 with 144 dots an inch and an upright one.
+constexpr QSize areas[] = {{1920, 1020}, {1366, 700}, {1366, 690}, {1024, 550}, {1080, 1870},
+                           {738, 408},   {683, 1000}, {640, 430},  {683, 340},  {683, 352}};
+
 TEST_F(ScaleTest, ControlsStandInTheAreaAndDoNotCoverEachOther) {
-  for (const QSize size : {QSize(1920, 1000), QSize(1366, 700), QSize(1024, 560)}) {
+  for (const QSize size : areas) {
     SCOPED_TRACE(::testing::Message() << size.width() << " x " << size.height());
     giveSize(size);
     QList<QWidget*> controls =
@@ -167,17 +172,28 @@ TEST_F(ScaleTest, ControlsStandInTheAreaAndDoNotCoverEachOther) {
   }
 }
 
-TEST_F(ScaleTest, OnAnOrdinaryDisplayNoControlCoversTheLens) {
-  for (const QSize size : {QSize(1920, 1000), QSize(1366, 690)}) {
+TEST_F(ScaleTest, OnNoDisplayAControlCoversTheLensOrIsCut) {
+  for (const QSize size : areas) {
+    SCOPED_TRACE(::testing::Message() << size.width() << " x " << size.height());
     giveSize(size);
     const UserMapping m = screen.canvas().mapping();
-    const Point upperLeft = m.toPixel({-70.0, 86.0});  // the start lens with its rim
-    const Point lowerRight = m.toPixel({50.0, -86.0});
+    const Point upperLeft = m.toPixel({-70.0, 87.5});  // the start lens with its rim
+    const Point lowerRight = m.toPixel({50.0, -87.5});
     const QRectF lens(QPointF(upperLeft.x, upperLeft.y), QPointF(lowerRight.x, lowerRight.y));
     for (const QWidget* control :
          screen.drawingArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       EXPECT_FALSE(lens.intersects(QRectF(control->geometry())))
           << control->objectName().toStdString();
+    }
+    for (const TextBox* box :
+         {&c.Text1, &c.Text2, &c.Text3, &c.Text4, &c.Text5, &c.Text6, &c.Text7}) {
+      EXPECT_GE(box->width(), box->widthForText(box->Text())) << box->objectName().toStdString();
+    }
+    for (const Label* hint : {&c.Label1, &c.Label2}) {
+      EXPECT_GE(hint->height(), hint->heightForWidth(hint->width()));
+    }
+    for (const ScrollBar* bar : {&c.aktina1, &c.aktina2, &c.deiktisdiathlasis, &c.desmi1}) {
+      EXPECT_GE(bar->width(), 56) << bar->objectName().toStdString();
     }
   }
 }
