@@ -98,14 +98,17 @@ class Walk {
 
   // Into the glass and out of it; false when the ray ends on the way.
   bool throughGlass(Line& line) {
+    Side entered = Side::None;
     if (line.enter() < line.start() - conditions_.touching) {
-      return !stoppedBeforeLens(0.0) && leaveGlass(line, Side::None);
+      if (stoppedBeforeLens(0.0)) return false;
+    } else {
+      if (stoppedBeforeLens(std::max(0.0, line.enter() - line.start()))) return false;
+      entered = line.entered(conditions_.enteredAtRim);
+      const FacePoint entry = pointAt<true>(line, entered);
+      if (!go(Medium::Air, entry.point)) return false;
+      if (!cross(entered, entry.normal, 1.0 / path_.n)) return false;
+      if (entry.normal) line = lineAhead();
     }
-    if (stoppedBeforeLens(std::max(0.0, line.enter() - line.start()))) return false;
-    const Side entered = line.entered(conditions_.enteredAtRim);
-    const FacePoint entry = pointAt<true>(line, entered);
-    if (!go(Medium::Air, entry.point) || !cross(entered, entry.normal, 1.0 / path_.n)) return false;
-    if (entry.normal) line = lineAhead();
     return leaveGlass(line, entered);
   }
 
@@ -217,8 +220,9 @@ class Walk {
     return stoppedBeforeLens(offset / at_.direction.x);
   }
 
-  const Left& left_;
-  const Right& right_;
+  // Copies: nothing that is written to the path can change them.
+  const Left left_;
+  const Right right_;
   const Conditions& conditions_;
   RayPath& path_;
   Ray at_;  // the end of the way so far, and where it goes on to
