@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QScreen>
 #include <QTest>
 
 #include "screens/ElSahl/ElSahl.h"
@@ -165,6 +166,33 @@ TEST_F(MovesTest, ALensButtonDrawsTheFanOfItsLensFromTheSharedSource) {
     EXPECT_EQ(screens.shared().pigiX.value(), 108.0);
     EXPECT_EQ(screens.shared().pigiY.value(), 25.0);
   }
+}
+
+TEST_F(MovesTest, TheMenuOpensBesideTheIbnSahlWindowUnlessAPersonHasMovedIt) {
+  // The display of the offscreen platform has no room at the right of the square, but below it.
+  const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
+  eisagogiko& menu = screens.eisagogiko();
+  menu.clientSize(200 * twipsPerPixel, 150 * twipsPerPixel);
+  const auto openBoth = [&] {
+    screens.openLensMenu();
+    menu.controls().Command1.click();
+    QCoreApplication::processEvents();
+    return screens.ElSahl().frameGeometry();
+  };
+  const QRect sahl = openBoth();
+  EXPECT_FALSE(menu.frameGeometry().intersects(sahl));
+  EXPECT_TRUE(display.contains(menu.frameGeometry()));
+  EXPECT_EQ(menu.frameGeometry().left(), sahl.right() + 1);
+
+  menu.clientSize(display.width() * twipsPerPixel / 2, 150 * twipsPerPixel);
+  EXPECT_EQ(openBoth(), sahl);
+  EXPECT_FALSE(menu.frameGeometry().intersects(sahl));
+  EXPECT_TRUE(display.contains(menu.frameGeometry()));
+
+  menu.move(37, 41);
+  screens.leaveLensMenu();
+  openBoth();
+  EXPECT_EQ(menu.frameGeometry().topLeft(), QPoint(37, 41));
 }
 
 TEST_F(MovesTest, NoScreenClearsAnother) {
