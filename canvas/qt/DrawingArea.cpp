@@ -66,12 +66,14 @@ bool DrawingArea::event(QEvent* event) {
   if (event->type() != frameEvent) return QWidget::event(event);
   frameWanted_ = false;
   // What nobody can see is drawn when it is seen again.
-  if (isVisible() && !window()->isMinimized()) {
-    frame({});
-  } else {
-    update();
-  }
+  if (isVisible() && !window()->isMinimized()) frame({});
   return true;
+}
+
+// Also when a minimised window is restored, which needs not paint it.
+void DrawingArea::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  update();
 }
 
 void DrawingArea::hideEvent(QHideEvent* event) {

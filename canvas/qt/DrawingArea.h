@@ -43,6 +43,7 @@ class DrawingArea : public QWidget {
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent*) override { fitCanvas(); }
+  void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override { emit pressed(event); }
   void mouseMoveEvent(QMouseEvent* event) override { emit moved(event); }

@@ -45,7 +45,7 @@ RasterCanvas::RasterCanvas(QSize logical, double devicePixelRatio, int oversampl
     : logical_(logical.expandedTo({1, 1})),
       ratio_(devicePixelRatio),
       oversampling_(std::max(1, oversampling)),
-      mapping_(currentMapping()),
+      mapping_(mappingOf(*this)),
       tiles_(imageSize(), background()) {}
 
 const QImage& RasterCanvas::image() const {
@@ -55,11 +55,6 @@ const QImage& RasterCanvas::image() const {
 
 void RasterCanvas::showIn(QImage& target, QPoint at) const {
   boxFilter(tiles_, target, at, oversampling_);
-}
-
-UserMapping RasterCanvas::currentMapping() const {
-  return {ScaleLeft(), ScaleTop(), ScaleX(1.0, ScaleUnit::User, ScaleUnit::Pixel),
-          ScaleY(1.0, ScaleUnit::User, ScaleUnit::Pixel)};
 }
 
 QSize RasterCanvas::imageSize() const {
@@ -77,7 +72,7 @@ void RasterCanvas::resize(QSize logical, double devicePixelRatio) {
   logical_ = size;
   ratio_ = devicePixelRatio;
   keepScaleAfterResize(old.width(), old.height());
-  mapping_ = currentMapping();
+  mapping_ = mappingOf(*this);
   if (!sameGrid) {
     loseAll();
     return;
@@ -309,7 +304,7 @@ bool RasterCanvas::fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) {
 
 void RasterCanvas::scaleChanged() {
   const UserMapping old = mapping_;
-  mapping_ = currentMapping();
+  mapping_ = mappingOf(*this);
   emit scaleReplaced(old);
   if (mapping_ != old) emit pictureLost();
 }

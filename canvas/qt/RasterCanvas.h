@@ -13,18 +13,9 @@
 #include "canvas/Canvas.h"
 #include "canvas/qt/Strokes.h"
 #include "canvas/qt/Tiles.h"
+#include "canvas/qt/UserMapping.h"
 
 namespace lensbench {
-
-// User units against logical pixels of the client area: the pixel of a user point and back.
-struct UserMapping {
-  double left, top;         // user point at the upper-left corner
-  double xPixels, yPixels;  // pixels per unit, signed
-
-  Point toPixel(Point user) const { return {(user.x - left) * xPixels, (user.y - top) * yPixels}; }
-  Point toUser(Point pixel) const { return {left + pixel.x / xPixels, top + pixel.y / yPixels}; }
-  friend bool operator==(const UserMapping&, const UserMapping&) = default;
-};
 
 // k for a display: two image pixels a device pixel, one where device pixels are fine enough.
 constexpr int oversamplingFor(double devicePixelRatio) noexcept {
@@ -90,7 +81,6 @@ class RasterCanvas final : public QObject, public Canvas {
   double imagePixelsPerPixel() const noexcept { return ratio_ * oversampling_; }
   QSize imageSize() const;
   PixelValue background() const { return opaque(painted(BackColor())); }
-  UserMapping currentMapping() const;
   FarPoint toImageFar(Point user) const;
   Point toImage(Point user) const noexcept;
   Stroke stroke(const Pen& pen) const;
