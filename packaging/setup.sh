@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # What ./run, ./test and .ci/run share: the packages that they stand on, and building a preset.
 # To be sourced from the root of the tree.
 
@@ -6,7 +6,7 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
 # A display that exists in memory only, a window manager on it, hands and a camera.
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
-test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev)
+test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev binutils strace)
 # llvm brings the symbolizer that the sanitizers' reports and suppressions need.
 check_packages=(git clang libclang-rt-dev llvm clang-format clang-tidy)
 
