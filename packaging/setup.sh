@@ -4,6 +4,9 @@
 
 # Compiler, build tools, toolkit, and the faces that carry the Greek texts.
 build_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
+# What a desktop with Wayland alone needs on top, and such a desktop that nobody sees.
+wayland_packages=(qt6-wayland)
+compositor_packages=(weston)
 # A display that exists in memory only, a window manager on it, hands and a camera.
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
 # The last two rows look into the program and its installation.
