@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -12,7 +13,11 @@
 namespace lensbench {
 namespace {
 
+// Two threads of the toolkit's may meet the same loss; the first one speaks, the other waits for the
+// end.
 [[noreturn]] void endFor(const char* reason) {
+  static std::mutex once;
+  once.lock();
   std::fprintf(stderr, "Lens Bench: %s\n", reason);
   endProcess(EXIT_FAILURE);
 }
