@@ -13,8 +13,8 @@
 namespace lensbench {
 namespace {
 
-// Two threads of the toolkit's may meet the same loss; the first one speaks, the other waits for the
-// end.
+// Two threads of the toolkit's may meet the same loss; the first one speaks, the other waits for
+// the end.
 [[noreturn]] void endFor(const char* reason) {
   static std::mutex once;
   once.lock();

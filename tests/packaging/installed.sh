@@ -11,8 +11,11 @@ refuse() {
   exit 1
 }
 
+# What is no longer needed is taken away at the end, which is not to be done to a system in use.
+for tool in lensbench g++; do
+  if command -v "$tool" >/dev/null; then refuse "not a bare system: there is $tool"; fi
+done
 require_packages "${virtual_display_packages[@]}"
-if command -v lensbench >/dev/null; then refuse "the program is there already"; fi
 before=$(dpkg-query --show)
 
 apt-get -q update
