@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2046
+# shellcheck shell=bash disable=SC2034,SC2046
 # What the desktop tests share: the program on a display, and questions to pictures.
 # To be sourced by a test that got the program as its first argument.
 set -euo pipefail
