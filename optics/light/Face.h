@@ -22,9 +22,7 @@ struct Circle {
   Point centre;
   double radius = 0.0;
 
-  friend bool operator==(const Circle& a, const Circle& b) {
-    return a.centre.x == b.centre.x && a.centre.y == b.centre.y && a.radius == b.radius;
-  }
+  friend bool operator==(const Circle&, const Circle&) = default;
 };
 
 // The right branch of x²/a² - y²/b² = 1, glass inside it; mirrored about a vertical line where

@@ -25,6 +25,8 @@ struct LensScene {
   Fakos fakos;
   double n = 1.0;
   Point pigi;  // light source
+
+  friend bool operator==(const LensScene&, const LensScene&) = default;
 };
 
 // The cardinal points once more, over what is there.
@@ -32,28 +34,35 @@ struct CardinalMarks {
   Fakos fakos;
   double n = 1.0;
   Point pigi;
+
+  friend bool operator==(const CardinalMarks&, const CardinalMarks&) = default;
 };
 
 // Rays, wave points or both, of rays that were sent.
 struct Light {
   Sent sent;
   Provoli provoli;
+
+  friend bool operator==(const Light&, const Light&) = default;
 };
 
 // The white scene under moving waves: focal circles, dotted circles and faces.
 struct WaveScene {
   Fakos fakos;
   double n = 1.0;
+
+  friend bool operator==(const WaveScene&, const WaveScene&) = default;
 };
 
 // The two fronts of moving waves at a step.
 struct Fronts {
   Sent sent;
   int step = 1;
+
+  friend bool operator==(const Fronts&, const Fronts&) = default;
 };
 
 using Layer = std::variant<LensScene, CardinalMarks, Light, WaveScene, Fronts>;
-bool operator==(const Layer& a, const Layer& b);
 
 struct Shown {
   std::vector<Layer> layers;  // empty after Cls

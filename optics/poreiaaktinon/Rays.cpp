@@ -56,19 +56,7 @@ class Tracing {
   light::Conditions conditions_;
 };
 
-bool same(Point a, Point b) { return a.x == b.x && a.y == b.y; }
-
 }  // namespace
-
-bool operator==(const Fan& a, const Fan& b) { return same(a.source, b.source) && a.vima == b.vima; }
-
-bool operator==(const SingleRay& a, const SingleRay& b) {
-  return same(a.source, b.source) && same(a.direction, b.direction);
-}
-
-bool operator==(const Sent& a, const Sent& b) {
-  return a.bench == b.bench && a.rays == b.rays && a.edges == b.edges;
-}
 
 int rayCount(double vima) { return static_cast<int>(Int(360 / Variant(vima)).value()); }
 

@@ -8,6 +8,7 @@
 
 #include "optics/light/Edges.h"
 #include "optics/light/RayPath.h"
+#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -17,8 +18,9 @@ namespace lensbench::poreiaaktinon {
 struct Fan {
   Point source;
   double vima = 1.0;  // step, degrees
+
+  friend bool operator==(const Fan&, const Fan&) = default;
 };
-bool operator==(const Fan& a, const Fan& b);
 int rayCount(double vima);
 
 // desmi: bundle of desmi1 + 1 parallel rays at an angle with the horizontal in radians, starting at
@@ -35,8 +37,9 @@ struct Desmi {
 struct SingleRay {
   Point source;
   Point direction;
+
+  friend bool operator==(const SingleRay&, const SingleRay&) = default;
 };
-bool operator==(const SingleRay& a, const SingleRay& b);
 
 using Rays = std::variant<Fan, Desmi, SingleRay>;
 
@@ -50,8 +53,11 @@ struct Sent {
 
   // True when the last ray is also the neighbour of the first: a fan all around its source.
   bool closed() const { return std::holds_alternative<Fan>(rays); }
+
+  friend bool operator==(const Sent& a, const Sent& b) {
+    return a.bench == b.bench && a.rays == b.rays && a.edges == b.edges;
+  }
 };
-bool operator==(const Sent& a, const Sent& b);
 
 // Traces the rays. An index of 0 and a direction without length are Division by zero (11).
 Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges);

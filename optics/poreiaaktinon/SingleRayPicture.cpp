@@ -1,11 +1,8 @@
 #include "optics/poreiaaktinon/SingleRayPicture.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <type_traits>
-
 #include "canvas/RuntimeError.h"
 #include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Layers.h"
 #include "optics/poreiaaktinon/Palette.h"
 #include "optics/poreiaaktinon/RayDrawing.h"
 
@@ -35,6 +32,9 @@ void drawFocalMarks(Canvas& canvas, const Outline& o) {
   }
 }
 
+}  // namespace
+
+// Found by the layers that they draw.
 void drawLayer(Canvas& canvas, const AimLine& aim) {
   canvas.Line(aim.from.x, aim.from.y, aim.to.x, aim.to.y);
 }
@@ -62,34 +62,6 @@ void drawLayer(Canvas& canvas, const Ray& ray) {
   for (const light::RayPath& path : *ray.sent.paths) {
     drawPath(canvas, path, palette::airRay, palette::airRay);
   }
-}
-
-void drawLayers(Canvas& canvas, const std::vector<Layer>& layers, std::size_t from) {
-  for (std::size_t i = from; i < layers.size(); ++i) {
-    std::visit([&](const auto& layer) { drawLayer(canvas, layer); }, layers[i]);
-  }
-}
-
-bool same(Point a, Point b) { return a.x == b.x && a.y == b.y; }
-bool same(const AimLine& a, const AimLine& b) { return same(a.from, b.from) && same(a.to, b.to); }
-bool same(const LensAlone& a, const LensAlone& b) { return a.outline == b.outline; }
-bool same(const LensUnderRay& a, const LensUnderRay& b) { return a.outline == b.outline; }
-bool same(const Ray& a, const Ray& b) { return a.sent == b.sent; }
-
-}  // namespace
-
-// All else follows from these.
-bool operator==(const Outline& a, const Outline& b) {
-  return a.R1 == b.R1 && a.R2 == b.R2 && a.xc1 == b.xc1 && a.xc2 == b.xc2 && a.f == b.f;
-}
-
-bool operator==(const Layer& a, const Layer& b) {
-  if (a.index() != b.index()) return false;
-  return std::visit(
-      [&](const auto& layer) {
-        return same(layer, *std::get_if<std::decay_t<decltype(layer)>>(&b));
-      },
-      a);
 }
 
 Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
@@ -139,15 +111,11 @@ Shown fittedTo(const light::Edges& edges, const Shown& shown) {
 
 void draw(Canvas& canvas, const Shown& shown) {
   canvas.Cls();
-  drawLayers(canvas, shown.layers, 0);
+  drawAdded(canvas, {}, shown.layers);
 }
 
 void redraw(Canvas& canvas, const Shown& from, const Shown& to) {
-  const std::vector<Layer>& before = from.layers;
-  const bool added = before.size() <= to.layers.size() &&
-                     std::equal(before.begin(), before.end(), to.layers.begin());
-  if (!added) return draw(canvas, to);
-  drawLayers(canvas, to.layers, before.size());
+  if (!drawAdded(canvas, from.layers, to.layers)) draw(canvas, to);
 }
 
 }  // namespace lensbench::poreiaaktinon::single

@@ -27,8 +27,9 @@ struct Outline {
   double h2 = 0.0;      // ordinate of the lower rim point
   double alpha1 = 0.0;  // half-angle of the right face, arc sine of h / R1, radians
   double alpha2 = 0.0;  // half-angle of the left face, arc sine of h / R2, radians
+
+  friend bool operator==(const Outline&, const Outline&) = default;
 };
-bool operator==(const Outline& a, const Outline& b);
 // Division by zero (11), in words, for a radius of 0 and for circles that are one and the same. An
 // arc sine never exceeds a right angle, so a face of more than half a circle is outlined too short.
 Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
@@ -38,23 +39,30 @@ Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, cons
 struct AimLine {
   Point from;
   Point to;
+
+  friend bool operator==(const AimLine&, const AimLine&) = default;
 };
 // The faces and the focal marks.
 struct LensAlone {
   Outline outline;
+
+  friend bool operator==(const LensAlone&, const LensAlone&) = default;
 };
 // What lies under a ray, twice over: focal marks, faces, and the lines along the top and the bottom
 // of the lens; the second time with marks at the rim.
 struct LensUnderRay {
   Outline outline;
+
+  friend bool operator==(const LensUnderRay&, const LensUnderRay&) = default;
 };
 // The ray, red in all its pieces.
 struct Ray {
   Sent sent;
+
+  friend bool operator==(const Ray&, const Ray&) = default;
 };
 
 using Layer = std::variant<AimLine, LensAlone, LensUnderRay, Ray>;
-bool operator==(const Layer& a, const Layer& b);
 
 struct Shown {
   std::vector<Layer> layers;
