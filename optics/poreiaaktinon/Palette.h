@@ -1,4 +1,4 @@
-// The colours and pen widths of the spherical lenses.
+// The colours, pen widths and measures of what is drawn of spherical lenses.
 #pragma once
 
 #include "canvas/Rgb.h"
@@ -27,6 +27,8 @@ inline constexpr Rgb thinFocus = RGB(55, 0, 0);
 inline constexpr Rgb centre = RGB(5, 0, 0);
 inline constexpr Rgb rim = RGB(0, 255, 0);
 inline constexpr int rimWidth = 2;
+inline constexpr double rimLineEnd = 200.0;  // the lines along the lens reach from -200 to 200
+inline constexpr double markRadius = 3.0;    // of focal circles and centre marks, user units
 
 inline constexpr Rgb focus = RGB(255, 0, 0);
 inline constexpr Rgb node = RGB(5, 250, 0);

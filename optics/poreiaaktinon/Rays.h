@@ -25,7 +25,8 @@ int rayCount(double vima);
 
 // desmi: bundle of desmi1 + 1 parallel rays at an angle with the horizontal in radians, starting at
 // (-200 - k tan(angle), k / cos(angle)) for k = 200 - i * 400 / desmi1. Optical paths are counted
-// from the plane through (-200, 0) square to the rays, on which those starts do not stand.
+// from the plane through (-200, 0) square to the rays. Kept on purpose: the starts do not stand
+// on that plane.
 struct Desmi {
   double gonia = 0.0;  // angle, radians
   int desmi1 = 1;

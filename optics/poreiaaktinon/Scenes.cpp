@@ -12,9 +12,6 @@
 namespace lensbench::poreiaaktinon {
 namespace {
 
-constexpr double markRadius = 3.0;
-constexpr double rimLineEnd = 200.0;  // the lines along the lens reach from -200 to 200
-
 // What both scenes draw of a lens.
 struct Glass {
   Fakos fakos;
@@ -38,7 +35,8 @@ void drawFaces(Canvas& canvas, const Fakos& fakos) {
 void drawFocalCircles(Canvas& canvas, const Glass& glass) {
   if (glass.f.isEmpty()) return;
   for (const double side : {-1.0, 1.0}) {
-    canvas.Circle(glass.xordi + side * glass.f.value(), 0.0, markRadius, palette::thinFocus);
+    canvas.Circle(glass.xordi + side * glass.f.value(), 0.0, palette::markRadius,
+                  palette::thinFocus);
   }
 }
 
@@ -46,14 +44,14 @@ void drawRimLines(Canvas& canvas, const Glass& glass) {
   if (!glass.exists) return;
   canvas.DrawWidth(palette::rimWidth);
   for (const double y : {glass.h, -glass.h}) {
-    canvas.Line(-rimLineEnd, y, rimLineEnd, y, palette::rim);
+    canvas.Line(-palette::rimLineEnd, y, palette::rimLineEnd, y, palette::rim);
   }
   canvas.DrawWidth(1);
 }
 
 void drawCentres(Canvas& canvas, const Fakos& fakos) {
-  canvas.Circle(fakos.xc1, 0.0, markRadius, palette::centre);
-  canvas.Circle(fakos.xc2, 0.0, markRadius, palette::centre);
+  canvas.Circle(fakos.xc1, 0.0, palette::markRadius, palette::centre);
+  canvas.Circle(fakos.xc2, 0.0, palette::markRadius, palette::centre);
 }
 
 void drawFullCircles(Canvas& canvas, const Fakos& fakos) {

@@ -9,9 +9,7 @@
 namespace lensbench::poreiaaktinon::single {
 namespace {
 
-constexpr double focalMark = 3.0;     // radius
-constexpr double rimMark = 6.0;       // radius
-constexpr double rimLineEnd = 200.0;  // the lines along the lens reach from -200 to 200
+constexpr double rimMark = 6.0;  // radius
 
 [[noreturn]] void divisionByZero(const char* sentence) {
   throw RuntimeError(RuntimeError::Code::DivisionByZero, sentence);
@@ -28,7 +26,7 @@ void drawFaces(Canvas& canvas, const Outline& o) {
 // An Empty focal length, that of an index of 1, puts both marks on the chord.
 void drawFocalMarks(Canvas& canvas, const Outline& o) {
   for (const double side : {-1.0, 1.0}) {
-    canvas.Circle(o.x0 + side * o.f.value(), 0.0, focalMark, palette::outlineMark);
+    canvas.Circle(o.x0 + side * o.f.value(), 0.0, palette::markRadius, palette::outlineMark);
   }
 }
 
@@ -53,8 +51,8 @@ void drawLayer(Canvas& canvas, const LensUnderRay& lens) {
     }
     drawFocalMarks(canvas, o);
     drawFaces(canvas, o);
-    canvas.Line(-rimLineEnd, o.h, rimLineEnd, o.h);
-    canvas.Line(-rimLineEnd, o.h2, rimLineEnd, o.h2);
+    canvas.Line(-palette::rimLineEnd, o.h, palette::rimLineEnd, o.h);
+    canvas.Line(-palette::rimLineEnd, o.h2, palette::rimLineEnd, o.h2);
   }
 }
 

@@ -5,7 +5,6 @@
 // 0, the left face the arc of circle 2 around angle pi.
 #pragma once
 
-#include <optional>
 #include <variant>
 #include <vector>
 
@@ -30,8 +29,9 @@ struct Outline {
 
   friend bool operator==(const Outline&, const Outline&) = default;
 };
-// Division by zero (11), in words, for a radius of 0 and for circles that are one and the same. An
-// arc sine never exceeds a right angle, so a face of more than half a circle is outlined too short.
+// Division by zero (11), in words, for a radius of 0 and for circles that are one and the same.
+// Kept on purpose: the half-angles are arc sines, which never exceed a right angle, so a face
+// of more than half a circle is outlined too short.
 Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
                   const Variant& deiktis);
 

@@ -1,7 +1,6 @@
 #include "screens/kelmo/Drag.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace lensbench {

@@ -40,8 +40,8 @@ struct Room {
 light::Edges reachAt(double X, const Room& room);
 
 // The diaphragm after the grabbed part of it is let go at p. A single end follows p and stops at
-// the other end; the whole keeps its opening and moves down in tenths of the area's height until p
-// is no longer below it. What moves stays within reach.
+// the other end; what moves stays within reach. Kept on purpose: the whole keeps its opening and
+// height, and only where p is below it moves down, in tenths of the area's height.
 poreiaaktinon::Diafragma releasedDiaphragm(Grab grab, Point p,
                                            const poreiaaktinon::Diafragma& before,
                                            const Room& room);

@@ -1,9 +1,9 @@
 #include "screens/kelmo/kelmo.h"
 
-#include <cmath>
 #include <utility>
 
 #include "canvas/Format.h"
+#include "optics/poreiaaktinon/Numbers.h"
 #include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
 #include "screens/Moves.h"
@@ -82,6 +82,7 @@ void kelmo::Form_Load() {
   c.Text3.FontName(timesGreek);
   c.Text4.FontName(timesGreek);
   c.Label3.Caption(labelled(multiplierCaption, formatWhole(c.arvimaton.Value())));
+  // Kept on purpose: without the blank before the sign that the bars write; both texts are exact.
   c.Text5.Text(labelled("Ακτίνα2=", formatWhole(c.aktina2.Value())));
   c.Text6.Text(labelled("Ακτίνα1=", formatWhole(c.aktina1.Value())));
   c.Text7.Text(labelled(rightCentreCaption, formatWhole(c.kentrokykloy.Value())));
@@ -106,7 +107,9 @@ void kelmo::resized() {
 }
 
 double kelmo::vima() const {
-  return (4 * Atn(1) * controls_.arvimaton.Value() / controls_.desmi1.Value()).value();
+  // Kept on purpose: formed with pi and read as degrees, so that the fan has as many rays as the
+  // count that is shown.
+  return poreiaaktinon::pi * controls_.arvimaton.Value() / controls_.desmi1.Value();
 }
 
 poreiaaktinon::Provoli kelmo::provoli() const {

@@ -4,6 +4,7 @@
 
 #include "canvas/qt/Dialogs.h"
 #include "optics/poreiaaktinon/Fronts.h"
+#include "optics/poreiaaktinon/Numbers.h"
 #include "screens/Answers.h"
 #include "screens/Shared.h"
 #include "screens/kelmo/kelmo.h"
@@ -30,7 +31,7 @@ void kelmo::EPANALIPSI_Click() {
   const auto answer = context_.dialogs.InputBox(
       QStringLiteral("Give angle with horizontal direction: -90<φ<90"), {}, QStringLiteral("0"));
   if (!answer) return;
-  gonia = numberFromAnswer(*answer) * (4 * Atn(1)) / 180;
+  gonia = numberFromAnswer(*answer) * poreiaaktinon::pi / 180;
   ticks_ = 0;
   controls_.Timer1.Interval(1500);
   controls_.Timer1.Enabled(false);
