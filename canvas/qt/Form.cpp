@@ -272,7 +272,8 @@ void Form::mouseMoved(const QMouseEvent& event) {
 }
 
 void Form::mouseReleased(const QMouseEvent& event) {
-  if (event.button() == Qt::LeftButton) dragging_ = false;
+  // A drag that was told to have ended stays so, even if its release comes after all.
+  if (event.button() == Qt::LeftButton && !std::exchange(dragging_, false)) return;
   report(&Form::MouseUp, event.button(), event);
 }
 

@@ -87,8 +87,8 @@ class Form : public QMainWindow {
   void MouseDown(int Button, int Shift, double X, double Y);
   void MouseMove(int Button, int Shift, double X, double Y);
   void MouseUp(int Button, int Shift, double X, double Y);
-  // The left button was pressed here, and its release will not be told: the mouse came back without
-  // it, a box stands in front of the form, or the form is out of sight.
+  // The left button was pressed here, and its release will not be told, not even when it comes: the
+  // mouse came back without it, a box stands in front of the form, or the form is out of sight.
   void DragEnded();
   // The client area has a new size or pixel ratio, and the canvas with it.
   void Resized();

@@ -353,6 +353,20 @@ TEST(Form, ADragEndsWhenTheMouseComesWithoutTheLeftButton) {
   EXPECT_THAT(log.told, ::testing::ElementsAre("down 1", "ended", "move 2", "move 0"));
 }
 
+TEST(Form, AReleaseAfterTheDragEndedIsNotTold) {
+  Form form(design);
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+  EXPECT_THAT(log.told,
+              ::testing::ElementsAre("down 1", "ended", "move 0", "up 2", "down 1", "up 1"));
+}
+
 TEST(Form, ASecondPressEndsADragWhoseReleaseWasLost) {
   Form form(design);
   MouseLog log(form);

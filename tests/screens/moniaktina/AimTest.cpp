@@ -1,4 +1,5 @@
 // Placing the source and aiming the ray with the mouse.
+#include <QDialog>
 #include <QtTest/QTest>
 
 #include "tests/screens/moniaktina/MoniaktinaTest.h"
@@ -62,6 +63,20 @@ TEST_F(MoniaktinaAimTest, ADragThatIsLostLeavesThePicture) {
   screen.Form_MouseMove(0, 0, 30.0, -10.0);
   EXPECT_FALSE(c.aim.Visible());
   EXPECT_EQ(picture(), before);
+}
+
+TEST_F(MoniaktinaAimTest, AReleaseAfterTheDragEndedSendsNoRay) {
+  const QImage before = picture();
+  QWidget* area = screen.drawingArea();
+  QTest::mousePress(area, Qt::LeftButton, {}, pixelOf({-150.0, 42.0}));
+  QDialog box(&screen);
+  box.setModal(true);
+  box.show();
+  ASSERT_FALSE(c.aim.Visible());
+  box.hide();
+  QTest::mouseRelease(area, Qt::LeftButton, {}, pixelOf({20.0, -10.0}));
+  EXPECT_EQ(picture(), before);
+  EXPECT_FALSE(screen.drawingArea()->toolTip().isEmpty());
 }
 
 TEST_F(MoniaktinaAimTest, MovingWithoutAPressShowsNoAim) {
