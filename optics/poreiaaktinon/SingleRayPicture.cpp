@@ -44,6 +44,7 @@ void drawLayer(Canvas& canvas, const LensAlone& lens) {
 
 void drawLayer(Canvas& canvas, const LensUnderRay& lens) {
   const Outline& o = lens.outline;
+  // Kept on purpose: the second pass draws over the first, with the same values.
   for (const bool withRimMarks : {false, true}) {
     if (withRimMarks) {
       canvas.Circle(o.x0, o.h, rimMark, palette::outlineMark);
@@ -94,7 +95,8 @@ Point aimedDirection(float xs, float ys, float xa, float ya) {
         "Η ακτίνα σημαδεύτηκε ακριβώς πάνω ή κάτω από την πηγή, όπου η κλίση της δεν ορίζεται. "
         "The ray was aimed exactly above or below the source, where its slope is not defined.");
   }
-  // So steep that the arc tangent cannot tell it from the vertical.
+  // So steep that the arc tangent cannot tell it from the vertical. Kept on purpose: only where the
+  // slope is positive, and upwards also when the ray was aimed down.
   if (Atn(Variant(dy) / Variant(dx)) == 2 * Atn(1)) return {0.0, 50.0};
   return {dx, dy};
 }

@@ -11,7 +11,8 @@
 namespace lensbench::protosfakos {
 
 // The fronts of a scene once more, in ForeColor, with its own wave points, or, after a bundle on
-// the workbench, with those that all rays but the first have when they start at (0, 0).
+// the workbench, with those that all rays but the first have when they start at (0, 0). Kept on
+// purpose: what the workbench sent last decides, not the rays of the scene.
 struct FrontsAgain {
   Scene scene;
   bool desmiMode = false;  // desmi: bundle; what the workbench sent last

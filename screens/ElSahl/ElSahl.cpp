@@ -158,6 +158,7 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
 void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   const Point p{X, Y};
   if (dragging()) dragTo(p);
+  // Kept on purpose: of the two drags only that of the upper edge holds the cross.
   const bool onEdge = syromenigrammi1 || controls_.onUpperEdge(p) || controls_.onLowerEdge(p);
   MousePointer(onEdge ? cross : arrow);
 }

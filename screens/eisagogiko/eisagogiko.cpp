@@ -11,6 +11,7 @@
 namespace lensbench {
 namespace {
 
+// Kept on purpose: the texts differ in a doubled blank.
 constexpr const char* captionAtLoad = "INDEX OF REFRACTION Δείκτης Διάθλασης= ";
 constexpr const char* captionAtChange = "INDEX  OF REFRACTION Δείκτης Διάθλασης= ";
 

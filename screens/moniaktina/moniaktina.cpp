@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include "canvas/Format.h"
+#include "optics/poreiaaktinon/Numbers.h"
 #include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
 #include "screens/Moves.h"
@@ -14,6 +15,7 @@
 namespace lensbench {
 
 namespace single = poreiaaktinon::single;
+using poreiaaktinon::toSingle;
 
 namespace {
 
@@ -22,9 +24,6 @@ const FormDesign design{"moniaktina", "ΜΙΑ ΑΚΤΙΝΑ", 60, 315, 6630, 3225
 QString radius1Text(int value) { return labelled("Ακτίνα 1 =", formatWhole(value)); }
 QString radius2Text(int value) { return labelled("Ακτίνα 2 =", formatWhole(value)); }
 QString centreText(int value) { return labelled("Κέντρο δεξιά=", formatWhole(value)); }
-
-// Not inline: GCC 12 drops the rounding of two numbers that it finds side by side.
-[[gnu::noinline]] float toSingle(double value) { return static_cast<float>(value); }
 
 Point inSingles(Point p) { return {toSingle(p.x), toSingle(p.y)}; }
 
@@ -186,7 +185,7 @@ void moniaktina::kentrokykloy_Change() {
 
 void moniaktina::deiktisdiathlasis_Change() {
   deiktis = controls_.deiktisdiathlasis.Value() / 100.0;
-  // Not the spelling of Form_Load: no capital, no blank before the sign.
+  // Kept on purpose: not the spelling of Form_Load, but no capital and no blank before the sign.
   controls_.Text2.Text(labelled("Index of refraction n= ", formatHundredths(deiktis)));
 }
 
