@@ -9,8 +9,10 @@ wayland_packages=(qt6-wayland)
 compositor_packages=(weston)
 # A display that exists in memory only, a window manager on it, hands and a camera.
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
-# The last two rows look into the program and its installation.
+# The second row is another window manager, and what asks and tells windows and displays more than a
+# hand can; the last two look into the program and its installation.
 test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
+  icewm wmctrl x11-utils x11-xserver-utils
   binutils strace
   desktop-file-utils appstream librsvg2-bin groff-base)
 # llvm brings the symbolizer that the sanitizers' reports and suppressions need.

@@ -159,6 +159,12 @@ void Form::makeOrdinary() {
 }
 
 void Form::stateChanged() {
+  // Where the window manager made the window large first and maximised only then, the toolkit took
+  // the display's size for the ordinary one.
+  if (isMaximized() && !ordinary_ && normalGeometry() == geometry() && isLarge() &&
+      !beforeResize_.isEmpty()) {
+    ordinary_ = QRect(beforeMove_, beforeResize_);
+  }
   if (!isVisible() || !isOrdinary()) return;
   if (ordinary_) setGeometry(*std::exchange(ordinary_, std::nullopt));
   keepOnDisplay();
@@ -210,15 +216,18 @@ void Form::displayChanged() {
   if (isVisible()) keepOnDisplay();
 }
 
+bool Form::isLarge() const {
+  constexpr int panel = 64;  // pixels, more than a frame or a panel of the desktop takes
+  const QSize missing = screen()->availableGeometry().size() - size();
+  return std::max(std::abs(missing.width()), std::abs(missing.height())) <= panel;
+}
+
 // Without a window manager nobody makes a maximised window as large as the display. One that is
 // there has put its frame around the window, or made it large, before it is seen.
 void Form::fillWithoutManager() {
-  if (!isMaximized() || !windowHandle()->frameMargins().isNull()) return;
-  constexpr int panel = 64;  // pixels, more than a panel of the desktop takes
-  const QRect room = screen()->availableGeometry();
-  const QSize missing = room.size() - size();
-  alone_ = std::max(std::abs(missing.width()), std::abs(missing.height())) > panel;
-  if (alone_) setGeometry(room);
+  if (!isMaximized() || isLarge() || !windowHandle()->frameMargins().isNull()) return;
+  alone_ = true;
+  setGeometry(screen()->availableGeometry());
 }
 
 void Form::addMenuEntry(QAction* entry) {
@@ -309,11 +318,13 @@ void Form::hideEvent(QHideEvent* event) {
 
 void Form::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
+  if (isVisible() && isOrdinary()) beforeResize_ = event->oldSize();
   fitFrame();
 }
 
 void Form::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
+  if (isVisible() && isOrdinary()) beforeMove_ = event->oldPos();
   fitFrame();
 }
 

@@ -127,6 +127,8 @@ class Form : public QMainWindow {
   void keepOnDisplay();
   void followScreen(QScreen* screen);
   void displayChanged();
+  // Whether it is about as large as the display.
+  bool isLarge() const;
   void fillWithoutManager();
 
   DrawingArea* area_;
@@ -134,7 +136,9 @@ class Form : public QMainWindow {
   std::optional<QSize> outer_;     // the size with frame last written
   std::optional<QPoint> written_;  // the place of the frame last written
   QMargins frame_;                 // of the window when it was last seen as an ordinary one
-  std::optional<QRect> ordinary_;  // of a window that was hidden while maximised
+  std::optional<QRect> ordinary_;  // of a maximised window, where the toolkit will not know it
+  QPoint beforeMove_;              // of an ordinary window, before the last change
+  QSize beforeResize_;
   QMetaObject::Connection display_;
   bool managerAwaited_ = false;  // just shown, and nobody has answered yet
   bool alone_ = false;           // it fills the display without a window manager
