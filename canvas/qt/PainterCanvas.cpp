@@ -97,13 +97,16 @@ void PainterCanvas::strokeArc(Point centre, double radius, const Pen& pen, doubl
   const double margin = pen.width + 1.0;
   const Box box{-margin * detail, -margin * detail, (logical_.width() + margin) * detail,
                 (logical_.height() + margin) * detail};
-  // The chords that are seen, joined where they follow each other.
+  // The chords that are seen, joined where they follow each other; each stretch has its own dots.
   QPainterPath path;
   double firstAlong = 0.0;
   const auto add = [&](const Segment& chord, double along) {
     const QPointF from(chord.from.x / detail, chord.from.y / detail);
-    if (path.isEmpty()) firstAlong = along / detail;
-    if (path.isEmpty() || path.currentPosition() != from) path.moveTo(from);
+    if (path.isEmpty() || path.currentPosition() != from) {
+      painter_.strokePath(path, penOf(pen, firstAlong));
+      path = QPainterPath(from);
+      firstAlong = along / detail;
+    }
     path.lineTo(chord.to.x / detail, chord.to.y / detail);
   };
   Chords({{middle.x * detail, middle.y * detail}, reach * detail, angle(start), end - start})

@@ -89,6 +89,28 @@ TEST(PainterCanvas, OnlyAPenOfWidthOneDots) {
   EXPECT_NEAR(dark(painted(4, level(2))), 200 * 4 * 8, 400);
 }
 
+TEST(PainterCanvas, TheDotsOfACircleThatIsSeenInPartsStandWhereTheSurfaceHasThem) {
+  const auto draw = [](Canvas& canvas) {
+    canvas.DrawStyle(DrawStyle::Dotted);
+    canvas.Circle(0, 0, 91.3, black);
+    canvas.Circle(31.7, 0, 90.9, black);
+  };
+  const int ratio = 4;
+  RasterCanvas surface(logical, ratio, 1);
+  surface.Scale(-100, 80, 100, -80);
+  draw(surface);
+  const QImage vector = painted(ratio, draw);
+  int differ = 0;
+  for (int y = 0; y < vector.height(); ++y) {
+    for (int x = 0; x < vector.width(); ++x) {
+      const bool other = qGray(vector.pixel(x, y)) < 128;
+      differ += other == (surface.image().pixel(x, y) != 0xFFFFFFFFu) ? 0 : 1;
+    }
+  }
+  EXPECT_GT(dark(vector), 4000);
+  EXPECT_LT(differ, dark(vector) / 6);
+}
+
 TEST(PainterCanvas, ABodyIsFilledAndItsBorderIsWhole) {
   const double half = std::acos(0.5);
   constexpr double pi = std::numbers::pi;
