@@ -150,8 +150,9 @@ bool hasNear(const QImage& image, QPointF place, int size, QRgb colour) {
   int missing = 0;
   QPoint first;
   for (int y = edge; y < one.height() - edge; ++y) {
+    const auto* const row = reinterpret_cast<const QRgb*>(one.constScanLine(y));
     for (int x = edge; x < one.width() - edge; ++x) {
-      const QRgb colour = at(one, x, y);
+      const QRgb colour = row[x] | 0xFF000000u;
       if (colour == opaque(white)) continue;
       ++coloured;
       if (hasNear(other, QPointF(x + 0.5, y + 0.5) * scale, size, colour)) continue;
