@@ -5,6 +5,9 @@
 
 namespace lensbench {
 
+// Of the light source, and of the dot that stands for it.
+constexpr Rgb sourceColour = RGB(255, 128, 0);
+
 // A dot at the edge of the drawing area, clear of the controls there.
 class EdgeMark : public Shape {
  public:

@@ -17,6 +17,9 @@ struct Ray {
   constexpr Point at(double distance) const noexcept { return start + distance * direction; }
 };
 
+// Which way light goes through a lens.
+enum class Travel { Left = -1, Right = 1 };
+
 // Glass inside the circle. One of radius 0 holds no glass, and no ray meets it.
 struct Circle {
   Point centre;

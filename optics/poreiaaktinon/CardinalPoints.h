@@ -2,6 +2,7 @@
 #pragma once
 
 #include "canvas/Canvas.h"
+#include "optics/light/Face.h"
 #include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -26,9 +27,8 @@ CardinalPoints cardinalPoints(const Fakos& fakos, double n);
 // False without a lens, at n = 1, and where 1/f is 0: then there is nothing to mark.
 bool hasCardinalPoints(const Fakos& fakos, double n);
 
-// Which way light goes through the lens. Leftwards the points of the two sides exchange their
-// roles: F1 and F2, H1 and H2, N1 and N2.
-enum class Travel { Left = -1, Right = 1 };
+// Leftwards the points of the two sides exchange their roles: F1 and F2, H1 and H2, N1 and N2.
+using light::Travel;
 // From a source to the right of the lens's right vertex light goes to the left.
 Travel travelFrom(Point source, const Fakos& fakos);
 

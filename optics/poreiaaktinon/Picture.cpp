@@ -1,7 +1,7 @@
 #include "optics/poreiaaktinon/Picture.h"
 
+#include "canvas/Layers.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
-#include "optics/poreiaaktinon/Layers.h"
 #include "optics/poreiaaktinon/RayDrawing.h"
 #include "optics/poreiaaktinon/Scenes.h"
 

@@ -1,8 +1,8 @@
 #include "optics/poreiaaktinon/SingleRayPicture.h"
 
+#include "canvas/Layers.h"
 #include "canvas/RuntimeError.h"
 #include "optics/poreiaaktinon/Geometry.h"
-#include "optics/poreiaaktinon/Layers.h"
 #include "optics/poreiaaktinon/Palette.h"
 #include "optics/poreiaaktinon/RayDrawing.h"
 

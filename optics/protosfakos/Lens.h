@@ -8,6 +8,7 @@
 namespace lensbench::protosfakos {
 
 using light::Diafragma;
+using light::Travel;
 
 // The lens between the hyperbola and the plane x = 4a; its left vertex is (a, 0). a = 0 or n = 0 is
 // Division by zero (11).
@@ -17,7 +18,6 @@ light::Lens biconvex(double a, double b, double n);
 
 // A ray of the given slope that travels to the right or to the left. Exact also for the slope that
 // Tan gives for 90 degrees.
-enum class Travel { Left = -1, Right = 1 };
 light::Ray rayWithSlope(Point start, double slope, Travel travel);
 
 // Follows a ray through a hyperbolic lens, 530 on behind it, 100 when it misses. A diaphragm counts

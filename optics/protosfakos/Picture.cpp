@@ -1,11 +1,11 @@
 #include "optics/protosfakos/Picture.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <span>
 #include <utility>
 
+#include "canvas/Layers.h"
 #include "optics/light/Vector.h"
 #include "optics/protosfakos/Outline.h"
 
@@ -70,6 +70,9 @@ void drawFronts(Canvas& canvas, std::span<const Recorded> rays, std::optional<Rg
   }
 }
 
+}  // namespace
+
+// Found by the layers that they draw.
 void drawLayer(Canvas& canvas, const Scene& scene) { drawOver(canvas, scene); }
 
 void drawLayer(Canvas& canvas, const FrontsAgain& again) {
@@ -79,14 +82,6 @@ void drawLayer(Canvas& canvas, const FrontsAgain& again) {
   for (std::size_t k = 1; k < rays.size(); ++k) layFronts(rays[k], {}, asked.deiktisSahl);
   drawFronts(canvas, rays, {});
 }
-
-void drawLayers(Canvas& canvas, std::span<const Layer> layers) {
-  for (const Layer& layer : layers) {
-    std::visit([&](const auto& shown) { drawLayer(canvas, shown); }, layer);
-  }
-}
-
-}  // namespace
 
 void add(Shown& shown, Layer layer) {
   std::erase(shown.layers, layer);
@@ -105,17 +100,11 @@ void drawOver(Canvas& canvas, const Scene& scene) {
 
 void draw(Canvas& canvas, const Shown& shown) {
   canvas.Cls();
-  drawLayers(canvas, shown.layers);
+  drawAdded(canvas, {}, shown.layers);
 }
 
 void redraw(Canvas& canvas, const Shown& from, const Shown& to) {
-  const std::span<const Layer> before = from.layers;
-  const std::span<const Layer> after = to.layers;
-  if (before.size() <= after.size() && std::equal(before.begin(), before.end(), after.begin())) {
-    drawLayers(canvas, after.subspan(before.size()));
-  } else {
-    draw(canvas, to);
-  }
+  if (!drawAdded(canvas, from.layers, to.layers)) draw(canvas, to);
 }
 
 }  // namespace lensbench::protosfakos

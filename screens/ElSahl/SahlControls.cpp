@@ -8,7 +8,6 @@ namespace {
 
 constexpr Rgb edgeColour{0x00C00000};
 constexpr int edgeWidth = 3;  // pixels
-constexpr Rgb sourceColour = RGB(255, 128, 0);
 
 constexpr Place onlyWavesPlace{120, 0, 1455, 375};
 constexpr Place raysWavesPlace{1560, 0, 1335, 375};

@@ -8,7 +8,6 @@ namespace {
 constexpr double markerTwips = 135.0;
 constexpr double sourceTwips = 75.0;
 constexpr Rgb bladeColour = RGB(100, 100, 0);
-constexpr Rgb sourceColour = RGB(255, 128, 0);
 
 // Controls get their places from the size of the window.
 constexpr Place arranged{};

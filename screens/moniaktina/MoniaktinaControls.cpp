@@ -6,8 +6,6 @@
 namespace lensbench {
 namespace {
 
-constexpr Rgb sourceColour = RGB(255, 128, 0);
-
 void widenFor(TextBox& box, const char* widestText) {
   const int width = box.widthForText(QString::fromUtf8(widestText));
   box.resize(std::max(box.width(), width), box.height());

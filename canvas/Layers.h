@@ -1,4 +1,5 @@
-// Layers of a picture, drawn one over the other by a function drawLayer for each kind of them.
+// Layers of a picture, drawn one over the other by a function drawLayer for each kind of them,
+// which is found where the layer is declared.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +9,7 @@
 
 #include "canvas/Canvas.h"
 
-namespace lensbench::poreiaaktinon {
+namespace lensbench {
 
 // Draws what the layers have beyond the first ones, which the canvas holds. False, with nothing
 // drawn, when they do not start with those.
@@ -23,4 +24,4 @@ bool drawAdded(Canvas& canvas, const std::vector<Layer>& held, const std::vector
   return true;
 }
 
-}  // namespace lensbench::poreiaaktinon
+}  // namespace lensbench
