@@ -174,13 +174,12 @@ void Form::stateChanged() {
 void Form::fillDisplay() {
   client_.reset();
   outer_.reset();
-  const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
-  if (isVisible() && !isOrdinary()) {
-    setWindowState(Qt::WindowMaximized);
-    return;
-  }
+  QScreen* display = QGuiApplication::primaryScreen();
   // A window is maximised on the display that it stands on.
-  if (!display.contains(geometry().center())) move(display.topLeft());
+  if (isOrdinary() && !display->availableGeometry().contains(geometry().center())) {
+    setScreen(display);
+    move(display->availableGeometry().topLeft());
+  }
   setWindowState(Qt::WindowMaximized);
 }
 
