@@ -165,6 +165,12 @@ void Form::stateChanged() {
       !beforeResize_.isEmpty()) {
     ordinary_ = QRect(beforeMove_, beforeResize_);
   }
+  // On its way from minimised to maximised a window is an ordinary one for an instant.
+  constexpr int instant = 100;  // ms
+  QTimer::singleShot(instant, this, &Form::becomeOrdinary);
+}
+
+void Form::becomeOrdinary() {
   if (!isVisible() || !isOrdinary()) return;
   if (ordinary_) setGeometry(*std::exchange(ordinary_, std::nullopt));
   keepOnDisplay();

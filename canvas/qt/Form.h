@@ -118,6 +118,7 @@ class Form : public QMainWindow {
   void keepOrdinary();
   void makeOrdinary();
   void stateChanged();
+  void becomeOrdinary();
   QRect framed() const;
   void moveFrame(QPoint upperLeft);
   void outerSize(QSize size);
