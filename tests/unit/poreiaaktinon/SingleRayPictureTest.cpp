@@ -50,7 +50,7 @@ TEST(OutlineOf, SaysWhereTheFacesMeetAndHowFarTheyReach) {
 
 TEST(OutlineOf, DividesByZeroInWords) {
   for (const auto& [R1, R2, xc2] : {std::tuple{0, 100, 100}, {100, 0, 100}, {100, 100, 0}}) {
-    EXPECT_EQ(errorNumber([&] { outlineOf(R1, R2, 0, xc2, 1.5); }), 11);
+    EXPECT_EQ(errorNumber([R1 = R1, R2 = R2, xc2 = xc2] { outlineOf(R1, R2, 0, xc2, 1.5); }), 11);
   }
   EXPECT_EQ(errorNumber([] { outlineOf(90, 100, 0, 0, 1.5); }), 0);
 }
