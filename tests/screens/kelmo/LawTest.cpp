@@ -65,7 +65,7 @@ class LawTest : public KelmoTest, public ::testing::WithParamInterface<unsigned>
     all.emplace_back("size", [this] { giveSize({450 + upTo(200), 250 + upTo(150)}); });
     all.emplace_back("oversampling", [this] { screen.canvas().setOversampling(1 + upTo(1)); });
     all.emplace_back("pixel ratio", [this] {
-      screen.canvas().resize(screen.canvas().size(), std::vector{1.0, 1.5, 2.0}[upTo(2)]);
+      screen.canvas().resize(screen.canvas().size(), 1.0 + 0.5 * upTo(2));
     });
     all.emplace_back("hide and show", [this] {
       screen.Hide();
