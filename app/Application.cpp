@@ -8,7 +8,8 @@
 
 namespace lensbench {
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+Application::Application(int& argc, char** argv, Dialogs& dialogs, const Actions& actions)
+    : QApplication(argc, argv), dialogs_(dialogs), actions_(actions) {
   setApplicationName(QStringLiteral("lensbench"));
 }
 
@@ -29,7 +30,7 @@ void Application::run(const std::function<void()>& work) {
 }
 
 void Application::endWith(const RuntimeError& error) {
-  dialogs().Critical({}, errorHeadline(error), errorSentence(error, currentAction()));
+  dialogs_.Critical({}, errorHeadline(error), errorSentence(error, actions_.current()));
   endProcess(EXIT_FAILURE);
 }
 

@@ -9,9 +9,13 @@
 
 namespace lensbench {
 
+class Actions;
+class Dialogs;
+
 class Application : public QApplication {
  public:
-  Application(int& argc, char** argv);
+  // The boxes that the boundary speaks through, and the action that it names.
+  Application(int& argc, char** argv, Dialogs& dialogs, const Actions& actions);
 
   // Inside each event delivery, so that nothing unwinds through the toolkit's event loop.
   bool notify(QObject* receiver, QEvent* event) override;
@@ -21,6 +25,9 @@ class Application : public QApplication {
  private:
   // Shows the error and ends the program with exit status 1.
   [[noreturn]] void endWith(const RuntimeError& error);
+
+  Dialogs& dialogs_;
+  const Actions& actions_;
 };
 
 // The texts of the error box: what happened, and one plain sentence that says which action met it.

@@ -4,8 +4,10 @@
 
 #include "app/Application.h"
 #include "canvas/Format.h"
-#include "optics/poreiaaktinon/Workbench.h"
-#include "optics/protosfakos/SahlState.h"
+#include "canvas/qt/Dialogs.h"
+#include "optics/poreiaaktinon/Named.h"
+#include "optics/protosfakos/Named.h"
+#include "screens/DisplayScale.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/Texts.h"
 #include "screens/eisagogiko/eisagogiko.h"
@@ -13,21 +15,24 @@
 #include "screens/moniaktina/moniaktina.h"
 
 namespace lensbench {
-namespace {
 
-template <typename Screen>
-Screen& existing(std::unique_ptr<Screen>& screen, Moves& moves) {
-  if (!screen) screen = std::make_unique<Screen>(moves);
-  return *screen;
-}
-
-}  // namespace
-
-Screens::Screens() {
-  // The workbench takes the connection over once it is created; this one creates it.
-  poreiaaktinon::connectWorkbench(
-      [this]() -> poreiaaktinon::Workbench& { return kelmo().workbench(); });
-  protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return ElSahl().view(); });
+// The routines that take no screen find theirs here, and make it when they are the first to.
+Screens::Screens(Dialogs& dialogs, Clock& clock, Actions& actions)
+    : context_{*this, dialogs, clock, actions, shared_} {
+  poreiaaktinon::connectWorkbench({.canvas = [this]() -> Canvas& { return kelmo().canvas(); },
+                                   .bench = [this] { return kelmo().bench(); },
+                                   .vima = [this] { return kelmo().vima(); },
+                                   .provoli = [this] { return kelmo().provoli(); },
+                                   .pigi = [this] { return kelmo().pigi(); }});
+  protosfakos::connectSahlScreen(
+      {.canvas = [this]() -> Canvas& { return ElSahl().canvas(); },
+       .asked = [this] { return ElSahl().askedFan(); },
+       .caption =
+           [this](const std::string& utf8) { ElSahl().Caption(QString::fromStdString(utf8)); },
+       .message =
+           [this](const std::string& utf8) {
+             context_.dialogs.MsgBox(QString::fromStdString(utf8));
+           }});
 }
 
 Screens::~Screens() {
@@ -35,10 +40,16 @@ Screens::~Screens() {
   protosfakos::connectSahlScreen({});
 }
 
-lensbench::kelmo& Screens::kelmo() { return existing(kelmo_, *this); }
-lensbench::moniaktina& Screens::moniaktina() { return existing(moniaktina_, *this); }
-lensbench::eisagogiko& Screens::eisagogiko() { return existing(eisagogiko_, *this); }
-lensbench::ElSahl& Screens::ElSahl() { return existing(ElSahl_, *this); }
+template <typename Screen>
+Screen& Screens::existing(std::unique_ptr<Screen>& screen) {
+  if (!screen) screen = std::make_unique<Screen>(context_);
+  return *screen;
+}
+
+lensbench::kelmo& Screens::kelmo() { return existing(kelmo_); }
+lensbench::moniaktina& Screens::moniaktina() { return existing(moniaktina_); }
+lensbench::eisagogiko& Screens::eisagogiko() { return existing(eisagogiko_); }
+lensbench::ElSahl& Screens::ElSahl() { return existing(ElSahl_); }
 
 void Screens::openSingleRay() {
   moniaktina().fitDisplay();
@@ -47,7 +58,11 @@ void Screens::openSingleRay() {
   moniaktina().Show();
 }
 
-void Screens::openLensMenu() { eisagogiko().Show(); }
+void Screens::openLensMenu() {
+  // So that the index and the picture can be in sight together.
+  placeBeside(eisagogiko(), squareSide());
+  eisagogiko().Show();
+}
 
 void Screens::leaveSingleRay() {
   moniaktina().Hide();
@@ -61,22 +76,25 @@ void Screens::leaveLensMenu() {
 
 void Screens::openIbnSahl() { ElSahl().prepare(); }
 
+void Screens::drawIbnSahl() { ElSahl().drawFan(); }
+
 void Screens::leaveIbnSahl() {
   ElSahl().Hide();
-  eisagogiko().Show();
+  openLensMenu();
 }
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }
+
+light::Diafragma Screens::diafragma() { return kelmo().diafragma(); }
 
 void Main(Screens& screens) {
   screens.ElSahl().strokesAt(200.0);
   screens.kelmo().Show();
   auto& menu = screens.eisagogiko();
-  auto& state = protosfakos::state();
-  state.deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
-  menu.controls().Label1.Caption(
-      labelled("Index of Refraction n=", formatHundredths(state.deiktisSahl)));
-  state.deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
+  Variant& deiktisSahl = screens.shared().deiktisSahl;
+  deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
+  menu.controls().Label1.Caption(labelled("Index of Refraction n=", formatHundredths(deiktisSahl)));
+  deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
 }
 
 }  // namespace lensbench

@@ -3,7 +3,9 @@
 
 #include <memory>
 
+#include "screens/Context.h"
 #include "screens/Moves.h"
+#include "screens/Shared.h"
 
 namespace lensbench {
 
@@ -14,7 +16,8 @@ class ElSahl;
 
 class Screens : public Moves {
  public:
-  Screens();
+  // What all screens are given stands outside; it must outlive them.
+  Screens(Dialogs& dialogs, Clock& clock, Actions& actions);
   ~Screens() override;
   Screens(const Screens&) = delete;
   Screens& operator=(const Screens&) = delete;
@@ -30,10 +33,19 @@ class Screens : public Moves {
   void leaveSingleRay() override;
   void leaveLensMenu() override;
   void openIbnSahl() override;
+  void drawIbnSahl() override;
   void leaveIbnSahl() override;
   [[noreturn]] void End() override;
+  light::Diafragma diafragma() override;
+
+  Shared& shared() noexcept { return shared_; }
 
  private:
+  template <typename Screen>
+  Screen& existing(std::unique_ptr<Screen>& screen);
+
+  Shared shared_;
+  Context context_;
   std::unique_ptr<lensbench::kelmo> kelmo_;
   std::unique_ptr<lensbench::moniaktina> moniaktina_;
   std::unique_ptr<lensbench::eisagogiko> eisagogiko_;

@@ -1,100 +1,167 @@
-// Speed of the drawing surface, each figure beside the bare pixel loop that paints the same.
+// Speed of the drawing surface, at 1920 x 1080 and 3840 x 2160 with two image pixels a display
+// pixel, each figure beside what paints the same in the plainest way: pixel loops on a flat image
+// or, for whole pictures, the toolkit's painter on such an image and a plain filter.
 //
-// The time shown is the canvas's own; "reference" is the bare loop's in ms, "ratio" ours over it.
+// The time shown is the surface's own; "reference" is the other's in ms, "ratio" ours over it.
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
+#include <QPainter>
+
 #include "bench/Compare.h"
-#include "canvas/qt/BoxFilter.h"
-#include "canvas/qt/Pixels.h"
 #include "canvas/qt/RasterCanvas.h"
 
 namespace lensbench {
 namespace {
 
-constexpr QSize display(1920, 1080);
 constexpr int oversampling = 2;
 constexpr Rgb red = RGB(255, 0, 0);
+constexpr Rgb blue = RGB(0, 0, 255);
 
-// One user unit a display pixel, the origin in the middle; a bare image of the same size.
-struct Bench {
-  RasterCanvas canvas{display, 1.0, oversampling};
-  QImage bare{display * oversampling, QImage::Format_RGB32};
-  Bench() {
-    canvas.Scale(-960, 540, 960, -540);
-    bare.fill(Qt::white);
-  }
+// A flat image, written directly.
+struct Flat {
+  explicit Flat(QImage& image)
+      : first(reinterpret_cast<PixelValue*>(image.bits())),
+        stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue))) {}
+  PixelValue* row(int y) const { return first + stride * y; }
+
+  PixelValue* first;
+  std::ptrdiff_t stride;
 };
 
-// Two image pixels a step along the longer direction: the least a line of this width can cost.
-void bareLine(const Pixels& pixels, Point from, Point to, PixelValue colour) {
-  const double dx = to.x - from.x;
-  const double dy = to.y - from.y;
-  const bool level = std::fabs(dx) > std::fabs(dy);
-  const int steps = static_cast<int>(std::fmax(std::fabs(dx), std::fabs(dy)));
-  constexpr double one = 65536.0;
-  auto x = static_cast<std::int64_t>(from.x * one);
-  auto y = static_cast<std::int64_t>(from.y * one);
-  const auto stepX = static_cast<std::int64_t>(dx * one / steps);
-  const auto stepY = static_cast<std::int64_t>(dy * one / steps);
-  const std::ptrdiff_t beside = level ? pixels.stride : 1;
-  for (int i = 0; i <= steps; ++i, x += stepX, y += stepY) {
-    PixelValue* const pixel = pixels.row(static_cast<int>(y >> 16)) + (x >> 16);
-    pixel[0] = colour;
-    pixel[beside] = colour;
+void plainFilter(QImage& source, QImage& target) {
+  const Flat from(source);
+  const Flat to(target);
+  constexpr PixelValue even = 0x00FF00FFu;
+  const int width = target.width();
+  for (int y = 0; y < target.height(); ++y) {
+    const PixelValue* const upper = from.row(2 * y);
+    const PixelValue* const lower = from.row(2 * y + 1);
+    PixelValue* const out = to.row(y);
+    for (int x = 0; x < width; ++x) {
+      const PixelValue a = upper[2 * x];
+      const PixelValue b = upper[2 * x + 1];
+      const PixelValue c = lower[2 * x];
+      const PixelValue d = lower[2 * x + 1];
+      const PixelValue redBlue = (a & even) + (b & even) + (c & even) + (d & even);
+      const PixelValue green =
+          (a >> 8 & 255u) + (b >> 8 & 255u) + (c >> 8 & 255u) + (d >> 8 & 255u);
+      out[x] = 0xFF000000u | ((redBlue + 0x00020002u) >> 2 & even) | (green + 2) >> 2 << 8;
+    }
   }
 }
 
-// The largest fan: rays from a point left of the middle to near the edges.
-void lines(benchmark::State& state) {
-  Bench bench;
-  std::vector<Point> ends;
-  const auto count = static_cast<int>(state.range(0));
-  for (int i = 0; i < count; ++i) {
-    const double angle = 2.0 * std::numbers::pi * i / count;
-    const double c = std::cos(angle);
-    const double s = std::sin(angle);
-    const double toSide = (c > 0 ? 1350.0 : 550.0) / std::fmax(std::fabs(c), 1e-9);
-    const double reach = std::fmin(toSide, 530.0 / std::fmax(std::fabs(s), 1e-9));
-    ends.push_back({-400.0 + reach * c, reach * s});
+// One user unit a display pixel, the origin in the middle; a flat image of the same size.
+struct Bench {
+  explicit Bench(std::int64_t height)
+      : size(static_cast<int>(height) * 16 / 9, static_cast<int>(height)),
+        halfWidth(size.width() / 2.0),
+        halfHeight(size.height() / 2.0),
+        canvas(size, 1.0, oversampling),
+        shown(size, QImage::Format_RGB32),
+        bare(size * oversampling, QImage::Format_RGB32),
+        bareShown(size, QImage::Format_RGB32) {
+    canvas.Scale(-halfWidth, halfHeight, halfWidth, -halfHeight);
+    bare.fill(Qt::white);
+    shown.fill(Qt::white);
+    bareShown.fill(Qt::white);
   }
-  const auto inImage = [](Point p) { return Point{2 * (p.x + 960), 2 * (540 - p.y)}; };
+
+  Point inImage(Point p) const { return {2 * (p.x + halfWidth), 2 * (halfHeight - p.y)}; }
+
+  // Brings the display up to date as a drawing area does: strip by strip of what has changed.
+  void show() {
+    for (const QRect& part : canvas.takeDirty()) {
+      for (int y = part.top(); y <= part.bottom(); y += 32) {
+        const QSize strip(part.width(), std::min(32, part.bottom() + 1 - y));
+        QImage target(shown.scanLine(y) + 4 * part.left(), strip.width(), strip.height(),
+                      shown.bytesPerLine(), QImage::Format_RGB32);
+        canvas.showIn(target, {part.left(), y});
+      }
+    }
+  }
+
+  QSize size;
+  double halfWidth, halfHeight;
+  RasterCanvas canvas;
+  QImage shown;
+  QImage bare;
+  QImage bareShown;
+};
+
+// Rays of a parallel beam through a thick lens to its focus and on to the edge: three pieces each.
+struct Piece {
+  Point from, to;
+  Rgb colour;
+};
+std::vector<Piece> beam(const Bench& bench, int rays) {
+  const double focus = 0.45 * bench.halfWidth;
+  std::vector<Piece> pieces;
+  for (int i = 0; i < rays; ++i) {
+    const double y = 0.85 * bench.halfHeight * (2.0 * (i + 0.5) / rays - 1.0);
+    const Point entry{-40.0, y};
+    const Point exit{40.0, 0.95 * y};
+    const double reach = bench.halfWidth - exit.x;
+    pieces.push_back({{-bench.halfWidth, y}, entry, red});
+    pieces.push_back({entry, exit, blue});
+    pieces.push_back({exit, {bench.halfWidth, exit.y * (1.0 - reach / focus)}, red});
+  }
+  return pieces;
+}
+
+// A whole picture from nothing to the display.
+void picture(benchmark::State& state) {
+  Bench bench(state.range(0));
+  const auto pieces = beam(bench, static_cast<int>(state.range(1)));
   compare(
       state,
       [&] {
-        for (const Point& end : ends) bench.canvas.Line(-400, 0, end.x, end.y, red);
+        bench.canvas.Cls();
+        for (const Piece& p : pieces) {
+          bench.canvas.Line(p.from.x, p.from.y, p.to.x, p.to.y, p.colour);
+        }
+        bench.show();
       },
       [&] {
-        const Pixels pixels(bench.bare);
-        for (const Point& end : ends) {
-          bareLine(pixels, inImage({-400, 0}), inImage(end), opaque(red));
+        bench.bare.fill(Qt::white);
+        QPainter painter(&bench.bare);
+        QPen pen(Qt::red, oversampling, Qt::SolidLine, Qt::RoundCap);
+        for (const Piece& p : pieces) {
+          const QColor colour = QColor::fromRgb(opaque(p.colour));
+          if (pen.color() != colour) {
+            pen.setColor(colour);
+            painter.setPen(pen);
+          }
+          const Point from = bench.inImage(p.from);
+          const Point to = bench.inImage(p.to);
+          painter.drawLine(QLineF(from.x, from.y, to.x, to.y));
         }
+        plainFilter(bench.bare, bench.bareShown);
       });
 }
 
 void dots(benchmark::State& state) {
-  Bench bench;
-  const auto width = static_cast<int>(state.range(0));
-  const auto count = static_cast<int>(state.range(1));
+  Bench bench(state.range(0));
+  const auto width = static_cast<int>(state.range(1));
+  const auto count = static_cast<int>(state.range(2));
   bench.canvas.DrawWidth(width);
   std::vector<Point> places;
   for (int i = 0; i < count; ++i) {
     const double angle = 0.001 * i;
-    const double radius = 20.0 + 500.0 * i / count;
+    const double radius = 20.0 + (bench.halfHeight - 30.0) * i / count;
     places.push_back({radius * std::cos(angle), radius * std::sin(angle)});
   }
   const int size = width * oversampling;
   compare(
-      state,
+      state, [&] { bench.canvas.PSets(places, red); },
       [&] {
-        for (const Point& p : places) bench.canvas.PSet(p.x, p.y, red);
-      },
-      [&] {
-        const Pixels pixels(bench.bare);
+        const Flat pixels(bench.bare);
         for (const Point& p : places) {
-          const int left = static_cast<int>(2 * (p.x + 960)) - size / 2;
-          const int top = static_cast<int>(2 * (540 - p.y)) - size / 2;
+          const Point middle = bench.inImage(p);
+          const int left = static_cast<int>(middle.x) - size / 2;
+          const int top = static_cast<int>(middle.y) - size / 2;
           for (int j = 0; j < size; ++j) {
             PixelValue* const row = pixels.row(top + j) + left;
             for (int i = 0; i < size; ++i) row[i] = opaque(red);
@@ -103,92 +170,71 @@ void dots(benchmark::State& state) {
       });
 }
 
-void circles(benchmark::State& state) {
-  Bench bench;
-  compare(
-      state,
-      [&] {
-        for (int r = 10; r < 500; r += 5) bench.canvas.Circle(0, 0, r, red);
-      },
-      [&] {
-        const Pixels pixels(bench.bare);
-        for (int r = 20; r < 1000; r += 10) {
-          const int chords = 2 * r;
-          Point last{1920.0 + r, 1080.0};
-          for (int i = 1; i <= chords; ++i) {
-            const double angle = 2.0 * std::numbers::pi * i / chords;
-            const Point next{1920.0 + r * std::cos(angle), 1080.0 - r * std::sin(angle)};
-            bareLine(pixels, last, next, opaque(red));
-            last = next;
-          }
-        }
-      });
-}
-
+// Clearing what a beam has drawn.
 void clear(benchmark::State& state) {
-  Bench bench;
-  compare(
-      state, [&] { bench.canvas.Cls(); }, [&] { bench.bare.fill(opaque(white)); });
+  Bench bench(state.range(0));
+  const auto pieces = beam(bench, static_cast<int>(state.range(1)));
+  for ([[maybe_unused]] auto iteration : state) {
+    for (const Piece& p : pieces) bench.canvas.Line(p.from.x, p.from.y, p.to.x, p.to.y, p.colour);
+    const double time = seconds([&] { bench.canvas.Cls(); });
+    state.SetIterationTime(time);
+    state.counters["reference"] = 1e3 * seconds([&] { bench.bare.fill(Qt::white); });
+  }
 }
 
+// Showing what a beam has drawn.
+void show(benchmark::State& state) {
+  Bench bench(state.range(0));
+  const auto pieces = beam(bench, static_cast<int>(state.range(1)));
+  bench.show();
+  for ([[maybe_unused]] auto iteration : state) {
+    bench.canvas.Cls();
+    bench.canvas.takeDirty();
+    for (const Piece& p : pieces) bench.canvas.Line(p.from.x, p.from.y, p.to.x, p.to.y, p.colour);
+    state.SetIterationTime(seconds([&] { bench.show(); }));
+    state.counters["reference"] = 1e3 * seconds([&] { plainFilter(bench.bare, bench.bareShown); });
+  }
+}
+
+// A lens-like body of a third of the height; the reference paints its rows.
 void fill(benchmark::State& state) {
-  Bench bench;
-  bench.canvas.Circle(0, 0, 200, black);
+  Bench bench(state.range(0));
+  const int radius = bench.size.height() / 3;
+  bench.canvas.Circle(0, 0, radius, black);
+  bench.canvas.FillStyle(FillStyle::Solid);
   int turn = 0;
   compare(
       state,
       [&] {
         bench.canvas.FillColor(RGB(220, ++turn % 2 * 100, 195));
-        bench.canvas.FloodFill(960, 540, black);
+        bench.canvas.FloodFill(bench.size.width() / 2, bench.size.height() / 2, black);
       },
       [&] {
-        const Pixels pixels(bench.bare);
-        for (int j = -400; j < 400; ++j) {
-          const int half = static_cast<int>(std::sqrt(400.0 * 400.0 - j * j));
-          pixels.fill(1080 + j, 1920 - half, 1920 + half, opaque(red));
+        const Flat pixels(bench.bare);
+        const int reach = radius * oversampling;
+        for (int j = -reach; j < reach; ++j) {
+          const auto half = static_cast<int>(std::sqrt(double(reach) * reach - double(j) * j));
+          PixelValue* const middle = pixels.row(bench.size.height() + j) + bench.size.width();
+          std::fill(middle - half, middle + half, opaque(red));
         }
       });
 }
 
-void filter(benchmark::State& state) {
-  Bench bench;
-  bench.canvas.Circle(0, 0, 200, red);
-  QImage shown(display, QImage::Format_RGB32);
-  QImage bareShown(display, QImage::Format_RGB32);
-  compare(
-      state, [&] { boxFilter(bench.canvas.image(), shown, shown.rect(), oversampling); },
-      [&] {
-        const Pixels source(bench.bare);
-        const Pixels target(bareShown);
-        for (int y = 0; y < target.height; ++y) {
-          const PixelValue* const upper = source.row(2 * y);
-          const PixelValue* const lower = source.row(2 * y + 1);
-          PixelValue* const out = target.row(y);
-          for (int x = 0; x < target.width; ++x) {
-            PixelValue mean = 0xFF000000u;
-            for (int shift = 0; shift < 24; shift += 8) {
-              const PixelValue sum =
-                  (upper[2 * x] >> shift & 255u) + (upper[2 * x + 1] >> shift & 255u) +
-                  (lower[2 * x] >> shift & 255u) + (lower[2 * x + 1] >> shift & 255u);
-              mean |= (sum + 2) / 4 << shift;
-            }
-            out[x] = mean;
-          }
-        }
-      });
+void sizes(benchmark::internal::Benchmark* one, const std::vector<std::vector<std::int64_t>>& all) {
+  for (const std::int64_t height : {1080, 2160}) {
+    for (std::vector<std::int64_t> arguments : all) {
+      arguments.insert(arguments.begin(), height);
+      one->Args(arguments);
+    }
+  }
+  one->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK(lines)->Arg(76)->Arg(3437)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(dots)
-    ->Args({1, 3000000})
-    ->Args({2, 500000})
-    ->Args({3, 3000})
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(circles)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(clear)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(fill)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(filter)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(picture)->Apply([](auto* b) { sizes(b, {{10}, {76}, {100}, {1000}, {10000}}); });
+BENCHMARK(dots)->Apply([](auto* b) { sizes(b, {{1, 500000}, {2, 500000}, {3, 3000}}); });
+BENCHMARK(clear)->Apply([](auto* b) { sizes(b, {{10}, {76}, {1000}}); });
+BENCHMARK(show)->Apply([](auto* b) { sizes(b, {{10}, {76}, {1000}}); });
+BENCHMARK(fill)->Apply([](auto* b) { sizes(b, {{}}); });
 
 }  // namespace
 }  // namespace lensbench

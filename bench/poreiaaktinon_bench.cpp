@@ -5,16 +5,16 @@
 #include <vector>
 
 #include "bench/Compare.h"
-#include "optics/Vector.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Wavefront.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Fronts.h"
+#include "optics/poreiaaktinon/Rays.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
 
 constexpr Fakos startLens{-50.0, 100.0, 20.0, 90.0};
-const OpticalSetup bench{
-    startLens, 1.5, Diafragma{0.0, 60.0, -60.0}, {-384.0, 384.0, -216.0, 216.0}};
+constexpr light::Edges edges{-384.0, 384.0, -216.0, 216.0};
+const Bench bench{startLens, 1.5, Diafragma{0.0, 60.0, -60.0}};
 
 // Rays that all go through both faces.
 std::vector<Point> throughTheLens() {
@@ -49,11 +49,13 @@ double bareRay(Point p, Point d, double n) {
 
 void thousandRays(benchmark::State& state) {
   const auto directions = throughTheLens();
+  const light::Lens lens = lensOf(bench);
+  const light::Conditions conditions = conditionsOf(bench, edges);
   compare(
       state,
       [&] {
         for (const Point d : directions) {
-          benchmark::DoNotOptimize(tracePath(bench, {-200.0, 0.0}, d));
+          benchmark::DoNotOptimize(light::trace(lens, {{-200.0, 0.0}, d}, conditions));
         }
       },
       [&] {
@@ -68,24 +70,24 @@ BENCHMARK(thousandRays)->UseManualTime()->Unit(benchmark::kMicrosecond);
 void largestFan(benchmark::State& state) {
   const double vima = 4.0 * std::atan(1.0) * 5.0 / 150.0;
   for ([[maybe_unused]] auto iteration : state) {
-    benchmark::DoNotOptimize(fanPaths(bench, {-200.0, 30.0}, vima));
+    benchmark::DoNotOptimize(send(bench, Fan{{-200.0, 30.0}, vima}, edges));
   }
 }
 BENCHMARK(largestFan)->Unit(benchmark::kMicrosecond);
 
 void bundle(benchmark::State& state) {
   for ([[maybe_unused]] auto iteration : state) {
-    benchmark::DoNotOptimize(bundlePaths(bench, 0.3, 150));
+    benchmark::DoNotOptimize(send(bench, Desmi{0.3, 150}, edges));
   }
 }
 BENCHMARK(bundle)->Unit(benchmark::kMicrosecond);
 
 // One front of an animation of 151 rays.
 void frontOfABundle(benchmark::State& state) {
-  const auto paths = bundlePaths(bench, 0.3, 150);
+  const Sent sent = send(bench, Desmi{0.3, 150}, edges);
   double L = 0.0;
   for ([[maybe_unused]] auto iteration : state) {
-    for (const RayPath& path : paths) benchmark::DoNotOptimize(pointAtOpticalPath(path, L));
+    benchmark::DoNotOptimize(frontAt(sent, L));
     L = L < 600.0 ? L + 2.5 : 0.0;
   }
 }

@@ -6,17 +6,13 @@
 // of the same size: what is left over it is tracing, reading the controls and showing the picture.
 #include <QApplication>
 
-#include "app/Screens.h"
 #include "bench/Compare.h"
+#include "canvas/Recording.h"
 #include "canvas/qt/RasterCanvas.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Tracing.h"
+#include "optics/light/Edges.h"
 #include "screens/ElSahl/ElSahl.h"
-#include "screens/kelmo/Scene.h"
 #include "screens/kelmo/kelmo.h"
-#include "tests/screens/support/FakeDialogs.h"
-#include "tests/support/RecordingCanvas.h"
-#include "tests/unit/protosfakos/FakeSahlScreen.h"
+#include "tests/screens/support/TestContext.h"
 
 namespace lensbench {
 namespace {
@@ -24,118 +20,70 @@ namespace {
 constexpr QSize display(1920, 1080);
 constexpr QSize sahlWindow(720, 720);
 
-// The workbench with a canvas that writes down what is drawn.
-class RecordedWorkbench : public poreiaaktinon::Workbench {
- public:
-  explicit RecordedWorkbench(kelmo& screen)
-      : screen_(screen), canvas_(screen.drawingArea()->width(), screen.drawingArea()->height()) {
-    const Canvas& shown = screen.canvas();
-    canvas_.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
-                  shown.ScaleTop() + shown.ScaleHeight());
-    poreiaaktinon::connectWorkbench([this]() -> poreiaaktinon::Workbench& { return *this; });
-  }
-  ~RecordedWorkbench() override {
-    poreiaaktinon::connectWorkbench(
-        [&screen = screen_]() -> poreiaaktinon::Workbench& { return screen.workbench(); });
-  }
-
-  RecordingCanvas& canvas() override { return canvas_; }
-  poreiaaktinon::Diafragma diafragma() const override { return screen_.workbench().diafragma(); }
-  poreiaaktinon::Fakos fakos() const override { return screen_.workbench().fakos(); }
-  double deiktisdiathlasis() const override { return screen_.workbench().deiktisdiathlasis(); }
-  Point pigi() const override { return screen_.workbench().pigi(); }
-  double vima() const override { return screen_.workbench().vima(); }
-  poreiaaktinon::Provoli provoli() const override { return screen_.workbench().provoli(); }
-
- private:
-  kelmo& screen_;
-  RecordingCanvas canvas_;
-};
-
-void play(const std::vector<Operation>& operations, Canvas& canvas) {
-  for (const Operation& op : operations) {
-    canvas.DrawWidth(op.width);
-    canvas.DrawStyle(op.style);
-    canvas.FillStyle(op.fill ? FillStyle::Solid : FillStyle::Transparent);
-    if (op.fill) canvas.FillColor(*op.fill);
-    switch (op.kind) {
-      case Operation::Kind::Cls:
-        canvas.Cls();
-        break;
-      case Operation::Kind::Line:
-        canvas.Line(op.x1, op.y1, op.x2, op.y2, op.colour);
-        break;
-      case Operation::Kind::Circle:
-        canvas.Circle(op.x1, op.y1, op.radius, op.colour);
-        break;
-      case Operation::Kind::Arc:
-        canvas.Circle(op.x1, op.y1, op.radius, op.colour, op.x2, op.y2);
-        break;
-      case Operation::Kind::PSet:
-        canvas.PSet(op.x1, op.y1, op.colour);
-        break;
-      case Operation::Kind::Print:
-        canvas.CurrentX(op.x1);
-        canvas.CurrentY(op.y1);
-        canvas.Print(op.text);
-        break;
-      case Operation::Kind::FloodFill:
-        canvas.FloodFill(static_cast<int>(op.x1), static_cast<int>(op.y1), op.colour);
-        break;
-      case Operation::Kind::Scale:
-        break;
-    }
-  }
-}
-
 // The workbench on a full display with its diaphragm wide open.
 struct Desk {
-  Screens screens;
-  kelmo& bench;
+  TestContext program;
+  kelmo bench{program.context};
   RasterCanvas bare{display, 1.0, 2};
 
-  Desk() : bench(screens.kelmo()) {
+  Desk() {
     bench.Show();
     bench.resize(display);
     QApplication::processEvents();
     bench.controls().VScroll1.Value(-90);
     bench.controls().VScroll2.Value(90);
     bare.resize(bench.drawingArea()->size(), 1.0);
-    const Canvas& shown = bench.canvas();
-    bare.Scale(shown.ScaleLeft(), shown.ScaleTop(), shown.ScaleLeft() + shown.ScaleWidth(),
-               shown.ScaleTop() + shown.ScaleHeight());
+    scaleLikeTheBench(bare);
   }
 
   void show() { bench.drawingArea()->repaint(); }
 
-  Point pixelOf(double x, double y) const {
-    const Canvas& c = bench.canvas();
-    return {c.ScaleX(x - c.ScaleLeft(), ScaleUnit::User, ScaleUnit::Pixel),
-            c.ScaleY(y - c.ScaleTop(), ScaleUnit::User, ScaleUnit::Pixel)};
+  // What is drawn from nothing for the present picture, or to get to it from another.
+  Recording recorded() const {
+    Recording list = emptyList();
+    draw(list, bench.shown());
+    return list;
+  }
+  Recording recordedFrom(const poreiaaktinon::Shown& before) const {
+    Recording list = emptyList();
+    redraw(list, before, bench.shown());
+    return list;
   }
 
-  // What a scene and the given rays draw, as a list.
-  std::vector<Operation> recorded(const std::vector<poreiaaktinon::RayPath>& rays) {
-    RecordedWorkbench workbench(bench);
-    workbench.canvas().Cls();
-    drawLensScene(workbench);
-    poreiaaktinon::drawPaths(workbench.canvas(), rays, workbench.provoli());
-    return workbench.canvas().operations();
+  // Runs a handler and shows its picture, beside the bare operations of the present one.
+  template <typename Handler>
+  void measure(benchmark::State& state, Handler handler) {
+    const Recording list = recorded();
+    compare(
+        state,
+        [&] {
+          handler();
+          show();
+        },
+        [&] { list.playOn(bare); });
+    state.counters["operations"] = static_cast<double>(list.operations().size());
+  }
+
+ private:
+  void scaleLikeTheBench(Canvas& canvas) const {
+    const light::Edges edges = light::edgesOf(bench.canvas());
+    canvas.Scale(edges.left, edges.upper, edges.right, edges.lower);
+  }
+  Recording emptyList() const {
+    Recording list(bench.drawingArea()->width(), bench.drawingArea()->height());
+    scaleLikeTheBench(list);
+    list.forget();
+    return list;
   }
 };
 
 void scrollBarStep(benchmark::State& state) {
   Desk desk;
-  const auto list = desk.recorded({});
   int radius = 100;
-  compare(
-      state,
-      [&] {
-        radius = 201 - radius;
-        desk.bench.controls().aktina1.Value(radius);
-        desk.show();
-      },
-      [&] { play(list, desk.bare); });
+  desk.measure(state, [&] {
+    radius = 201 - radius;
+    desk.bench.controls().aktina1.Value(radius);
+  });
 }
 
 // A fan from an off-axis source; range(0) desmi1, range(1) the multiplier, range(2) waves too.
@@ -145,51 +93,45 @@ void fan(benchmark::State& state) {
   controls.desmi1.Value(static_cast<int>(state.range(0)));
   controls.arvimaton.Value(static_cast<int>(state.range(1)));
   controls.Check1.Value(state.range(2) != 0);
-  desk.bench.Form_MouseDown(1, 1, -250, 40);
-  const auto rays = poreiaaktinon::fanPaths(poreiaaktinon::setupOf(desk.bench.workbench()),
-                                            {-250, 40}, desk.bench.vima.value());
-  const auto list = desk.recorded(rays);
-  state.counters["rays"] = static_cast<double>(rays.size());
-  compare(
-      state,
-      [&] {
-        desk.bench.Form_MouseDown(1, 1, -250, 40);
-        desk.show();
-      },
-      [&] { play(list, desk.bare); });
+  // What is there already would not be drawn again.
+  double y = 40;
+  const auto send = [&] {
+    y = 81 - y;
+    desk.bench.Form_MouseDown(1, 1, -250, y);
+  };
+  send();
+  desk.measure(state, send);
+  state.counters["rays"] = poreiaaktinon::rayCount(desk.bench.vima());
 }
 
 // A bundle of 151 rays with waves at an angle of range(0) degrees.
 void bundle(benchmark::State& state) {
   Desk desk;
-  const double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
+  double angle = static_cast<double>(state.range(0)) / 57.29577951308232;
+  double turn = 0.001;  // what is there already would not be drawn again
   desk.bench.controls().desmi1.Value(150);
   desk.bench.controls().Check1.Value(true);
-  const auto rays =
-      poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(desk.bench.workbench()), angle, 150);
-  const auto list = desk.recorded(rays);
-  state.counters["rays"] = static_cast<double>(rays.size());
-  compare(
-      state,
-      [&] {
-        desk.bench.drawBundle(angle);
-        desk.show();
-      },
-      [&] { play(list, desk.bare); });
+  const auto send = [&] {
+    angle += turn;
+    turn = -turn;
+    desk.bench.drawBundle(angle);
+  };
+  send();
+  desk.measure(state, send);
+  state.counters["rays"] = 151;
 }
 
-// A tick of the plane waves of 151 rays; the reference draws the two fronts and the scene once.
+// A tick of the plane waves of 151 rays; the reference draws one such step again and again.
 void tick(benchmark::State& state) {
   Desk desk;
   KelmoControls& controls = desk.bench.controls();
   controls.desmi1.Value(150);
   desk.bench.parallilakymata_Click();
-  for (int i = 0; i < 160; ++i) desk.bench.Timer2_Timer();
-  RecordedWorkbench workbench(desk.bench);
-  WaveAnimation animation;
-  animation.start(desk.bench.animation().set());
-  animation.draw(workbench, 160);
-  const auto list = workbench.canvas().operations();
+  for (int i = 0; i < 159; ++i) desk.bench.Timer2_Timer();
+  const poreiaaktinon::Shown before = desk.bench.shown();
+  desk.bench.Timer2_Timer();
+  const Recording list = desk.recordedFrom(before);
+  draw(desk.bare, before);
   compare(
       state,
       [&] {
@@ -197,23 +139,18 @@ void tick(benchmark::State& state) {
         desk.bench.Timer2_Timer();
         desk.show();
       },
-      [&] { play(list, desk.bare); });
+      [&] { list.playOn(desk.bare); });
 }
 
 // The Ibn Sahl screen with one of its lenses at n = 1.5, opened as the menu opens it.
 struct SahlDesk {
-  Screens screens;
-  ElSahl& sahl;
-  protosfakos::HyperbolaAxes lens;
+  TestContext t;
+  ElSahl sahl{t.context};
   RasterCanvas bare{sahlWindow, 1.0, 2};
 
-  explicit SahlDesk(bool amfikyrtos) : sahl(screens.ElSahl()) {
-    protosfakos::SahlState& shared = protosfakos::state();
-    shared.deiktisSahl = 1.5;
-    shared.amfikyrtosSahl = amfikyrtos;
-    shared.pigiX = 108;
-    shared.pigiY = 25;
-    lens = protosfakos::deriveLens(shared.deiktisSahl).value();
+  explicit SahlDesk(bool amfikyrtos) {
+    t.shared.deiktisSahl = 1.5;
+    t.shared.amfikyrtosSahl = amfikyrtos;
     sahl.prepare();
     sahl.resize(sahlWindow);
     QApplication::processEvents();
@@ -223,49 +160,44 @@ struct SahlDesk {
                shown.ScaleTop() + shown.ScaleHeight());
   }
 
-  // What the routines of a scene draw on a clear screen, as a list.
-  template <typename Scene>
-  std::vector<Operation> recorded(Scene scene) {
-    protosfakos::FakeSahlScreen recorder;
-    recorder.opening = sahl.view().diafragma();
-    protosfakos::connectSahlScreen([&recorder]() -> protosfakos::SahlScreen& { return recorder; });
-    recorder.recording.Cls();
-    scene();
-    protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return sahl.view(); });
-    return recorder.recording.operations();
-  }
-
-  template <typename Handler>
-  void measure(benchmark::State& state, const std::vector<Operation>& list, Handler handler) {
+  // Two handlers in turn, whose pictures cost alike: none of them finds its picture there already.
+  template <typename One, typename Other>
+  void measure(benchmark::State& state, One one, Other other) {
+    one();
+    Recording list;
+    draw(list, sahl.shown());
+    bool turn = false;
     compare(
         state,
         [&] {
-          handler();
+          turn = !turn;
+          turn ? other() : one();
           sahl.drawingArea()->repaint();
         },
-        [&] { play(list, bare); });
-    if (bare.image() != sahl.canvas().image()) state.SkipWithError("the pictures differ");
-    state.counters["operations"] = static_cast<double>(list.size());
+        [&] { list.playOn(bare); });
+    one();
+    if (bare.image() != sahl.image()) state.SkipWithError("the pictures differ");
+    state.counters["operations"] = static_cast<double>(list.operations().size());
   }
 };
 
-// A press that places the source at (108, 25).
+// A press that places the source above and below the axis.
 void sahlFan(benchmark::State& state, bool amfikyrtos) {
   SahlDesk desk(amfikyrtos);
-  const auto routine =
-      amfikyrtos ? protosfakos::sxediasiamfikyrtou : protosfakos::sxediasiepipedokyrtou;
-  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 108, 25); });
-  desk.measure(state, list, [&] { desk.sahl.Form_MouseDown(1, 0, 108, 25); });
+  desk.measure(
+      state, [&] { desk.sahl.Form_MouseDown(1, 0, 108, 25); },
+      [&] { desk.sahl.Form_MouseDown(1, 0, 108, -25); });
 }
 
-// A bundle along the axis.
+// A bundle along the axis; half a turn more is another value with the same rays.
 void sahlBundle(benchmark::State& state, bool amfikyrtos) {
-  FakeDialogs dialogs;
-  dialogs.answer = "0";
   SahlDesk desk(amfikyrtos);
-  const auto routine = amfikyrtos ? protosfakos::desmiamfikyrtou : protosfakos::desmiepipedokyrtou;
-  const auto list = desk.recorded([&] { routine(desk.lens.a, desk.lens.b, 0); });
-  desk.measure(state, list, [&] { desk.sahl.parallilidesmifotos_Click(); });
+  const auto ask = [&](const char* angle) {
+    desk.t.dialogs.answer = angle;
+    desk.sahl.parallilidesmifotos_Click();
+  };
+  desk.measure(
+      state, [&] { ask("0"); }, [&] { ask("180"); });
 }
 
 BENCHMARK(scrollBarStep)->UseManualTime()->Unit(benchmark::kMillisecond);

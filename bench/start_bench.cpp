@@ -11,6 +11,9 @@
 
 #include "app/Screens.h"
 #include "bench/Compare.h"
+#include "canvas/qt/Clock.h"
+#include "canvas/qt/Dialogs.h"
+#include "screens/Handlers.h"
 
 namespace lensbench {
 namespace {
@@ -39,7 +42,10 @@ int showEmptyWindow() {
 }
 
 int showProgram() {
-  Screens screens;
+  QtClock clock;
+  QtDialogs dialogs(clock);
+  Actions actions;
+  Screens screens(dialogs, clock, actions);
   Main(screens);
   return QApplication::exec();
 }

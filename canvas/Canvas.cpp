@@ -64,6 +64,11 @@ void Canvas::PSet(double x, double y, std::optional<Rgb> colour) {
   paintDot({x, y}, pen(colour));
 }
 
+void Canvas::PSets(std::span<const Point> points, std::optional<Rgb> colour) {
+  for (const Point& p : points) requireFinite({p.x, p.y});
+  paintDots(points, pen(colour));
+}
+
 void Canvas::Print(std::string_view text) {
   const double lineHeight = paintText({currentX_, currentY_}, text, font_, painted(foreColor_));
   currentY_ += ScaleY(lineHeight, ScaleUnit::Pixel, ScaleUnit::User);
@@ -72,6 +77,19 @@ void Canvas::Print(std::string_view text) {
 bool Canvas::FloodFill(int pixelX, int pixelY, Rgb border) {
   return fillStyle_ == lensbench::FillStyle::Solid &&
          fillArea(pixelX, pixelY, painted(border), painted(fillColor_));
+}
+
+bool Canvas::FillBody(int pixelX, int pixelY, Rgb border, const Body& body) {
+  return fillStyle_ == lensbench::FillStyle::Solid &&
+         fillBody(pixelX, pixelY, painted(border), painted(fillColor_), body);
+}
+
+void Canvas::paintDots(std::span<const Point> centres, const Pen& pen) {
+  for (const Point& centre : centres) paintDot(centre, pen);
+}
+
+bool Canvas::fillBody(int pixelX, int pixelY, Rgb border, Rgb fill, const Body&) {
+  return fillArea(pixelX, pixelY, border, fill);
 }
 
 void Canvas::Scale(double x1, double y1, double x2, double y2) {

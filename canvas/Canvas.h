@@ -2,9 +2,11 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "canvas/Rgb.h"
 
@@ -33,6 +35,21 @@ struct Font {
   double size = 10.0;  // points
 };
 
+// An arc from start to end, counter-clockwise.
+struct CircleArc {
+  Point centre;
+  double radius = 0.0;
+  double start = 0.0;
+  double end = 0.0;
+};
+
+// The figure that a fill is meant for, of arcs joined each to the next and the last to the first;
+// borderWidth is the pen its border is drawn with.
+struct Body {
+  std::vector<CircleArc> outline;
+  int borderWidth = 1;
+};
+
 // Coordinates and lengths are in user units, angles in radians, counter-clockwise from positive x.
 // Until Scale is called the unit is the twip, origin at the upper left, y downward. A coordinate
 // that is not finite is Overflow (6). What is drawn stays until it is drawn over or cleared.
@@ -42,8 +59,6 @@ struct Font {
 class Canvas {
  public:
   virtual ~Canvas() = default;
-  Canvas(const Canvas&) = delete;
-  Canvas& operator=(const Canvas&) = delete;
 
   // Fills the client area with BackColor; CurrentX and CurrentY become 0.
   void Cls();
@@ -56,6 +71,8 @@ class Canvas {
               double end);
   // A filled round dot of diameter DrawWidth.
   void PSet(double x, double y, std::optional<Rgb> colour = {});
+  // The same as PSet of each in order, at less cost; not one is painted when one is not finite.
+  void PSets(std::span<const Point> points, std::optional<Rgb> colour = {});
   // UTF-8 text in ForeColor, its upper-left corner at (CurrentX, CurrentY); CurrentY then moves one
   // line of text down the screen.
   void Print(std::string_view text);
@@ -63,6 +80,8 @@ class Canvas {
   // the border colour. False when nothing was filled: FillStyle transparent, or a start outside or
   // on the border colour.
   bool FloodFill(int pixelX, int pixelY, Rgb border);
+  // A flood fill that is told what it fills: a surface without pixels fills the body itself.
+  bool FillBody(int pixelX, int pixelY, Rgb border, const Body& body);
 
   // Upper-left corner (x1, y1), lower-right corner (x2, y2) of the client area in user units.
   // Raises Division by zero (11) when a side would have no length.
@@ -101,6 +120,8 @@ class Canvas {
 
  protected:
   Canvas() = default;
+  Canvas(const Canvas&) = default;
+  Canvas& operator=(const Canvas&) = default;
 
   // Size of the client area in logical pixels, at least 1 x 1.
   virtual double clientWidth() const = 0;
@@ -113,10 +134,12 @@ class Canvas {
   // end > start after normalisation; end - start is at most 2 pi.
   virtual void strokeArc(Point centre, double radius, const Pen& pen, double start, double end) = 0;
   virtual void paintDot(Point centre, const Pen& pen) = 0;
+  virtual void paintDots(std::span<const Point> centres, const Pen& pen);
   // Returns the height of a line of text in logical pixels.
   virtual double paintText(Point upperLeft, std::string_view text, const Font& font,
                            Rgb colour) = 0;
   virtual bool fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) = 0;
+  virtual bool fillBody(int pixelX, int pixelY, Rgb border, Rgb fill, const Body& body);
   // Called after the scale has changed.
   virtual void scaleChanged() {}
 

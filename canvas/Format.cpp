@@ -9,8 +9,6 @@
 namespace lensbench {
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n\f\v";
-
 // The shortest decimal form that reads back as the same number, without an exponent: what a person
 // would write for it, so that 1.005 is halfway between 1.00 and 1.01 although its double is not.
 std::string shortestDecimal(double magnitude) {
@@ -69,21 +67,17 @@ std::string formatWhole(const Variant& v) { return rounded(v.value(), 0); }
 
 std::string formatHundredths(const Variant& v) { return rounded(v.value(), 2); }
 
-double numberFromText(std::string_view text, char decimalSign) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) throwTypeMismatch();
-  std::string digits(text.substr(first, text.find_last_not_of(blanks) - first + 1));
-  for (char& c : digits) {
-    if (c == decimalSign) c = '.';
-  }
+std::optional<double> numberFromText(std::string_view text) {
+  std::string digits(text);
+  std::replace(digits.begin(), digits.end(), ',', '.');
   // The reader takes no plus sign, but words such as "inf"; here it is the other way round.
-  if (digits.front() == '+' && digits.find('-') != 1) digits.erase(0, 1);
-  if (digits.find_first_not_of("0123456789.eE+-") != std::string::npos) throwTypeMismatch();
+  if (digits.starts_with('+') && !digits.starts_with("+-")) digits.erase(0, 1);
+  if (digits.find_first_not_of("0123456789.eE+-") != std::string::npos) return {};
 
   double value = 0.0;
   const char* end = digits.data() + digits.size();
   const auto read = std::from_chars(digits.data(), end, value);
-  if (read.ptr != end || read.ec == std::errc::invalid_argument) throwTypeMismatch();
+  if (read.ptr != end || read.ec == std::errc::invalid_argument) return {};
   if (read.ec == std::errc::result_out_of_range) {
     if (isLarge(digits)) throwOverflow();
     return 0.0;

@@ -1,6 +1,7 @@
 // Numbers as the screens show them, and texts as numbers.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,8 +16,8 @@ std::string formatWhole(const Variant& v);
 // point whatever the locale.
 std::string formatHundredths(const Variant& v);
 
-// A text as a number: blanks around it are allowed, and a point, or decimalSign in its place.
-// Anything else, the empty text included, is Type mismatch (13); too large is Overflow (6).
-double numberFromText(std::string_view text, char decimalSign = '.');
+// A text as a number, with a point or a comma; nothing when it is none, as the empty text is. Too
+// large is Overflow (6).
+std::optional<double> numberFromText(std::string_view text);
 
 }  // namespace lensbench

@@ -44,6 +44,5 @@ const char* RuntimeError::english() const noexcept {
 void throwInvalidArgument() { throw RuntimeError(RuntimeError::Code::InvalidArgument); }
 void throwOverflow() { throw RuntimeError(RuntimeError::Code::Overflow); }
 void throwDivisionByZero() { throw RuntimeError(RuntimeError::Code::DivisionByZero); }
-void throwTypeMismatch() { throw RuntimeError(RuntimeError::Code::TypeMismatch); }
 
 }  // namespace lensbench

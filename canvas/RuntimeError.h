@@ -39,6 +39,5 @@ class RuntimeError : public std::exception {
 [[noreturn]] void throwInvalidArgument();
 [[noreturn]] void throwOverflow();
 [[noreturn]] void throwDivisionByZero();
-[[noreturn]] void throwTypeMismatch();
 
 }  // namespace lensbench

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# A display in memory with a window manager, on which the program can be shown to nobody.
+# A display in memory, as a rule with a window manager, on which the program can be shown to nobody.
 # To be sourced; start_display sets DISPLAY, stop_display takes the display away again.
 
 display_processes=()
@@ -12,10 +12,10 @@ stop_display() {
   display_processes=()
 }
 
-# start_display WIDTHxHEIGHT: the server chooses a free display number itself, so that
-# many can run side by side.
+# start_display WIDTHxHEIGHT [MANAGER]: with that window manager (openbox, icewm, xfwm4, or none); the
+# server chooses a free display number itself, so that many can run side by side.
 start_display() {
-  local size=$1 scratch number tries
+  local size=$1 manager=${2:-openbox} scratch number tries
   scratch=$(mktemp -d)
   touch "$scratch/number"
   Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset \
@@ -33,12 +33,20 @@ start_display() {
   fi
   export DISPLAY=:$number LC_ALL=C.UTF-8
   unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-  openbox --sm-disable >"$scratch/manager" 2>&1 &
+  case $manager in
+    openbox) openbox --sm-disable >"$scratch/manager" 2>&1 & ;;
+    icewm) ICEWM_PRIVCFG=$scratch icewm --splash= >"$scratch/manager" 2>&1 & ;;
+    xfwm4) dbus-run-session xfwm4 >"$scratch/manager" 2>&1 & ;;
+    none)
+      rm -r "$scratch"
+      return
+      ;;
+  esac
   display_processes+=($!)
   # Only a running window manager answers this question.
   for ((tries = 0; tries < 200; ++tries)); do
     if xdotool get_desktop >/dev/null 2>&1; then
-      rm -r "$scratch"
+      rm -rf "$scratch"
       return
     fi
     sleep 0.05

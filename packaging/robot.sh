@@ -122,7 +122,14 @@ shift_click() {
 }
 
 # activate WINDOW: brings it to the front, where keys go.
-activate() { xdotool windowactivate --sync "$1"; }
+activate() {
+  if xdotool get_desktop >/dev/null 2>&1; then
+    xdotool windowactivate --sync "$1"
+  else
+    # Without a window manager.
+    xdotool windowraise "$1" windowfocus --sync "$1"
+  fi
+}
 key() { xdotool key --clearmodifiers --delay 20 "$@"; }
 # answer TITLE-PATTERN TEXT: types the text into that input box and accepts it.
 answer() {

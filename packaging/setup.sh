@@ -1,14 +1,24 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # What ./run, ./test and .ci/run share: the packages that they stand on, and building a preset.
 # To be sourced from the root of the tree.
 
 # Compiler, build tools, toolkit, and the faces that carry the Greek texts.
 build_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
+# What a desktop with Wayland alone needs on top, and such a desktop that nobody sees.
+wayland_packages=(qt6-wayland)
+compositor_packages=(weston)
 # A display that exists in memory only, a window manager on it, hands and a camera.
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
-test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev)
+# The second row is another window manager, and what asks and tells windows and displays more than a
+# hand can; the last two look into the program and its installation.
+test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
+  icewm wmctrl x11-utils x11-xserver-utils
+  binutils strace
+  desktop-file-utils appstream librsvg2-bin groff-base)
 # llvm brings the symbolizer that the sanitizers' reports and suppressions need.
-check_packages=(git clang libclang-rt-dev llvm clang-format clang-tidy)
+check_packages=(git clang libclang-rt-dev llvm clang-format clang-tidy shellcheck)
+# What makes a package and finds fault with it.
+package_packages=(dpkg-dev file librsvg2-bin lintian)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -6,11 +6,6 @@
 namespace lensbench {
 namespace {
 
-QString& action() {
-  static QString name;
-  return name;
-}
-
 QString nameOf(const QObject& sender) {
   if (const auto* widget = qobject_cast<const QWidget*>(&sender)) {
     return widget->accessibleName().isEmpty() ? widget->windowTitle() : widget->accessibleName();
@@ -23,12 +18,13 @@ QString nameOf(const QObject& sender) {
 
 }  // namespace
 
-QString currentAction() { return action(); }
-
-ActionScope::ActionScope(const QObject& sender) : outer_(action()) { action() = nameOf(sender); }
+ActionScope::ActionScope(Actions& actions, const QObject& sender)
+    : actions_(actions), outer_(actions.current_) {
+  actions_.current_ = nameOf(sender);
+}
 
 ActionScope::~ActionScope() {
-  if (std::uncaught_exceptions() == errorsBefore_) action() = outer_;
+  if (std::uncaught_exceptions() == errorsBefore_) actions_.current_ = outer_;
 }
 
 }  // namespace lensbench

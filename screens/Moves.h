@@ -1,5 +1,8 @@
-// The moves between screens, as the screens ask for them: no screen knows another.
+// The moves between screens, as the screens ask for them, and what one screen needs of another: no
+// screen knows another.
 #pragma once
+
+#include "optics/light/Stop.h"
 
 namespace lensbench {
 
@@ -17,10 +20,16 @@ class Moves {
   virtual void leaveLensMenu() = 0;
   // Lens menu, a hyperbolic lens: the Ibn Sahl screen gets its size, scale and strokes, and opens.
   virtual void openIbnSahl() = 0;
+  // Lens menu, after it: the Ibn Sahl screen clears itself and shows the fan of the shared source
+  // through the shared lens.
+  virtual void drawIbnSahl() = 0;
   // Ibn Sahl screen, "BACK TO MENU", after it has cleared itself.
   virtual void leaveIbnSahl() = 0;
   // Both "END" entries: the process ends at once, with exit status 0.
   virtual void End() = 0;
+
+  // The diaphragm of the workbench, which stops the ray of the single-ray screen too.
+  virtual light::Diafragma diafragma() = 0;
 
  protected:
   Moves() = default;

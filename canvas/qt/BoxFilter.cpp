@@ -1,8 +1,9 @@
 #include "canvas/qt/BoxFilter.h"
 
 #include <algorithm>
-
-#include "canvas/qt/Pixels.h"
+#include <array>
+#include <cstddef>
+#include <cstring>
 
 namespace lensbench {
 namespace {
@@ -10,52 +11,85 @@ namespace {
 constexpr PixelValue evenBytes = 0x00FF00FFu;
 
 // Red and blue are summed together in one word, sixteen bits each; green alone.
-void halveRow(const PixelValue* upper, const PixelValue* lower, PixelValue* out, int count) {
-  for (int i = 0; i < count; ++i) {
-    const PixelValue a = upper[2 * i];
-    const PixelValue b = upper[2 * i + 1];
-    const PixelValue c = lower[2 * i];
-    const PixelValue d = lower[2 * i + 1];
-    const PixelValue redBlue =
-        (a & evenBytes) + (b & evenBytes) + (c & evenBytes) + (d & evenBytes);
-    const PixelValue green =
-        ((a >> 8) & 0xFFu) + ((b >> 8) & 0xFFu) + ((c >> 8) & 0xFFu) + ((d >> 8) & 0xFFu);
-    out[i] = 0xFF000000u | (((redBlue + 0x00020002u) >> 2) & evenBytes) | ((green + 2) >> 2) << 8;
-  }
+PixelValue meanOfFour(const PixelValue* upper, const PixelValue* lower) {
+  const PixelValue redBlue = (upper[0] & evenBytes) + (upper[1] & evenBytes) +
+                             (lower[0] & evenBytes) + (lower[1] & evenBytes);
+  const PixelValue green = (upper[0] >> 8 & 0xFFu) + (upper[1] >> 8 & 0xFFu) +
+                           (lower[0] >> 8 & 0xFFu) + (lower[1] >> 8 & 0xFFu);
+  return 0xFF000000u | ((redBlue + 0x00020002u) >> 2 & evenBytes) | (green + 2) >> 2 << 8;
 }
 
-PixelValue mean(const PixelValue* first, std::ptrdiff_t stride, int k) {
+// As many pixels as a tile stands for: with the number known and no alias to fear the compiler
+// computes four at a time.
+void halveTileRow(const PixelValue* upper, const PixelValue* lower, PixelValue* out) {
+  std::array<PixelValue, Tiles::side / 2> means;
+  for (std::size_t i = 0; i < means.size(); ++i) {
+    means[i] = meanOfFour(upper + 2 * i, lower + 2 * i);
+  }
+  std::memcpy(out, means.data(), sizeof means);
+}
+
+PixelValue mean(const Tiles& source, int left, int top, int k) {
   PixelValue red = 0;
   PixelValue green = 0;
   PixelValue blue = 0;
-  for (int j = 0; j < k; ++j, first += stride) {
-    for (int i = 0; i < k; ++i) {
-      red += (first[i] >> 16) & 0xFFu;
-      green += (first[i] >> 8) & 0xFFu;
-      blue += first[i] & 0xFFu;
+  for (int y = top; y < top + k; ++y) {
+    for (int x = left; x < left + k; ++x) {
+      const PixelValue pixel = source.at(x, y);
+      red += (pixel >> 16) & 0xFFu;
+      green += (pixel >> 8) & 0xFFu;
+      blue += pixel & 0xFFu;
     }
   }
   const auto n = static_cast<PixelValue>(k * k);
   return 0xFF000000u | (red + n / 2) / n << 16 | (green + n / 2) / n << 8 | (blue + n / 2) / n;
 }
 
+// A part of the display that one tile stands for; k is 1 or 2, so that no pixel lies across the
+// border of tiles.
+void shrinkTile(const Tiles& source, PixelValue* out, std::ptrdiff_t stride, const QRect& part,
+                int k) {
+  const int x = part.left() * k;
+  const int y = part.top() * k;
+  const auto plain = source.plain(Tiles::tileOf(x), Tiles::tileOf(y));
+  const PixelValue* in = source.row(Tiles::tileOf(x), y) + Tiles::inTile(x);
+  const auto count = static_cast<std::size_t>(part.width());
+  for (int j = part.height(); j > 0; --j, in += Tiles::side * k, out += stride) {
+    if (plain) {
+      std::fill_n(out, count, *plain);
+    } else if (k == 1) {
+      std::memcpy(out, in, count * sizeof(PixelValue));
+    } else if (count == Tiles::side / 2) {
+      halveTileRow(in, in + Tiles::side, out);
+    } else {
+      for (std::size_t i = 0; i < count; ++i) {
+        out[i] = meanOfFour(in + 2 * i, in + Tiles::side + 2 * i);
+      }
+    }
+  }
+}
+
 }  // namespace
 
-void boxFilter(const QImage& source, QImage& target, const QRect& area, int k) {
-  const QRect inside = area & target.rect();
-  const auto sourceRow = [&](int y) {
-    return reinterpret_cast<const PixelValue*>(source.constScanLine(y)) + inside.left() * k;
-  };
-  const std::ptrdiff_t stride =
-      source.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(PixelValue));
-  for (int y = inside.top(); y <= inside.bottom(); ++y) {
-    PixelValue* const out = reinterpret_cast<PixelValue*>(target.scanLine(y)) + inside.left();
-    const PixelValue* const in = sourceRow(y * k);
-    if (k == 2) {
-      halveRow(in, in + stride, out, inside.width());
-      continue;
+void boxFilter(const Tiles& source, QImage& target, QPoint at, int k) {
+  const QRect area(at, target.size());
+  auto* const first = reinterpret_cast<PixelValue*>(target.bits());
+  const auto stride = target.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue));
+  if (k > 2) {
+    for (int y = 0; y < area.height(); ++y) {
+      for (int x = 0; x < area.width(); ++x) {
+        first[stride * y + x] = mean(source, (at.x() + x) * k, (at.y() + y) * k, k);
+      }
     }
-    for (int x = 0; x < inside.width(); ++x) out[x] = mean(in + x * k, stride, k);
+    return;
+  }
+  const int step = Tiles::side / k;
+  for (int top = at.y() / step * step; top <= area.bottom(); top += step) {
+    for (int left = at.x() / step * step; left <= area.right(); left += step) {
+      const QRect part = QRect(left, top, step, step) & area;
+      shrinkTile(source, first + stride * (part.top() - at.y()) + (part.left() - at.x()), stride,
+                 part, k);
+    }
   }
 }
 

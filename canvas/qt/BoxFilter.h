@@ -1,13 +1,16 @@
-// Bringing an oversampled image down to the pixels of the display.
+// Bringing the pixels of the drawing surface down to those of the display.
 #pragma once
 
 #include <QImage>
-#include <QRect>
+#include <QPoint>
+
+#include "canvas/qt/Tiles.h"
 
 namespace lensbench {
 
-// Sets the pixels of target inside area to the mean of the k x k pixels of source that stand for
-// each, rounded to the nearest. Both images are 32-bit; source is k times as wide and as high.
-void boxFilter(const QImage& source, QImage& target, const QRect& area, int k);
+// Sets every pixel of target to the mean, rounded to the nearest, of the k x k pixels that stand
+// for it; its upper-left pixel is the display's pixel at. The target is 32-bit and must lie within
+// the display.
+void boxFilter(const Tiles& source, QImage& target, QPoint at, int k);
 
 }  // namespace lensbench

@@ -3,11 +3,7 @@
 namespace lensbench {
 
 CheckBox::CheckBox(Form& form, const QString& name, const Place& place)
-    : Control(form, name, place) {
-  // On the form's own background, not on a button's.
-  setBackgroundRole(QPalette::Window);
-  setForegroundRole(QPalette::WindowText);
-  setAutoFillBackground(true);
+    : PlainControl(form, name, place) {
   connect(this, &QCheckBox::clicked, this, &CheckBox::Click);
 }
 

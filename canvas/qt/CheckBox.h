@@ -7,7 +7,7 @@
 
 namespace lensbench {
 
-class CheckBox : public Control<QCheckBox> {
+class CheckBox : public PlainControl<QCheckBox> {
   Q_OBJECT
 
  public:

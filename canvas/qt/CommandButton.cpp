@@ -11,11 +11,28 @@ namespace {
 // Room between the caption and the button's edges, both sides together.
 constexpr int margin = 12;
 
+// The words of a text, each with the blanks behind it, so that together they are the text; blanks
+// in front of all words are the first one's.
+QStringList words(const QString& text) {
+  QStringList result{QString()};
+  for (const QChar c : text) {
+    const QString& word = result.back();
+    if (c != ' ' && word.endsWith(' ') && !word.trimmed().isEmpty()) result.push_back({});
+    result.back() += c;
+  }
+  return result;
+}
+
+QString withoutBlanksBehind(QString text) {
+  while (text.endsWith(' ')) text.chop(1);
+  return text;
+}
+
 QStringList lines(const QString& text, const QFontMetrics& metrics, int width) {
   QStringList result;
-  for (const QString& word : text.split(' ', Qt::SkipEmptyParts)) {
-    const QString longer = result.isEmpty() ? word : result.back() + ' ' + word;
-    if (result.isEmpty() || metrics.horizontalAdvance(longer) > width) {
+  for (const QString& word : words(text)) {
+    const QString longer = (result.isEmpty() ? QString() : result.back()) + word;
+    if (result.isEmpty() || metrics.horizontalAdvance(withoutBlanksBehind(longer)) > width) {
       result.push_back(word);
     } else {
       result.back() = longer;
@@ -33,7 +50,7 @@ CommandButton::CommandButton(Form& form, const QString& name, const Place& place
 
 void CommandButton::Caption(const QString& caption) {
   caption_ = caption;
-  setAccessibleName(caption.simplified());
+  setAccessibleName(caption);
   wrap();
 }
 

@@ -1,9 +1,9 @@
 // What all widgets on a form share: name, place, font and words for those who cannot see them.
 #pragma once
 
-#include <cmath>
-
 #include <QAction>
+#include <QEvent>
+#include <QPalette>
 #include <QString>
 #include <QWidget>
 
@@ -67,6 +67,36 @@ class Control : public Widget {
 
   QString fontName_ = "Arial";
   double fontSize_ = smallestControlText;
+};
+
+// Colours of a control that stands on an area of this background: those of a light palette where
+// the area's colour is not the desktop's own, so that a dark desktop does not take its words away;
+// but on a desktop of high contrast the desktop's, on a plate of its own.
+QPalette coloursOn(const QColor& background);
+
+// A control that stands on the background of its form.
+template <typename Widget>
+class PlainControl : public Control<Widget> {
+ protected:
+  PlainControl(Form& form, const QString& name, const Place& twips)
+      : Control<Widget>(form, name, twips) {
+    Widget::setBackgroundRole(QPalette::Window);
+    Widget::setForegroundRole(QPalette::WindowText);
+    Widget::setAutoFillBackground(true);
+    takeColours();
+    Widget::parentWidget()->installEventFilter(this);
+  }
+
+  // The toolkit tells a widget with colours of its own nothing of the desktop's.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) takeColours();
+    return Widget::eventFilter(watched, event);
+  }
+
+ private:
+  void takeColours() {
+    Widget::setPalette(coloursOn(Widget::parentWidget()->palette().color(QPalette::Window)));
+  }
 };
 
 }  // namespace lensbench

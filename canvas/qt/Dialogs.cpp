@@ -4,23 +4,16 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include "canvas/qt/Timer.h"
+#include "canvas/qt/Clock.h"
 
 namespace lensbench {
 namespace {
 
 QString titleOr(const QString& title) { return title.isEmpty() ? programName : title; }
 
-Dialogs*& current() {
-  static QtDialogs toolkit;
-  static Dialogs* inUse = &toolkit;
-  if (inUse == nullptr) inUse = &toolkit;
-  return inUse;
-}
-
-void showBox(QMessageBox::Icon icon, const QString& title, const QString& text,
+void showBox(Clock& clock, QMessageBox::Icon icon, const QString& title, const QString& text,
              const QString& informative) {
-  const TickHold hold;
+  const TickHold hold(clock);
   QMessageBox box(icon, titleOr(title), text, QMessageBox::Ok, QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(informative);
@@ -30,12 +23,12 @@ void showBox(QMessageBox::Icon icon, const QString& title, const QString& text,
 }  // namespace
 
 void QtDialogs::MsgBox(const QString& text, const QString& title) {
-  showBox(QMessageBox::NoIcon, title, text, {});
+  showBox(clock_, QMessageBox::NoIcon, title, text, {});
 }
 
 std::optional<QString> QtDialogs::InputBox(const QString& prompt, const QString& title,
                                            const QString& defaultAnswer) {
-  const TickHold hold;
+  const TickHold hold(clock_);
   bool accepted = false;
   const QString answer = QInputDialog::getText(QApplication::activeWindow(), titleOr(title), prompt,
                                                QLineEdit::Normal, defaultAnswer, &accepted);
@@ -43,10 +36,7 @@ std::optional<QString> QtDialogs::InputBox(const QString& prompt, const QString&
 }
 
 void QtDialogs::Critical(const QString& title, const QString& text, const QString& informative) {
-  showBox(QMessageBox::Critical, title, text, informative);
+  showBox(clock_, QMessageBox::Critical, title, text, informative);
 }
-
-Dialogs& dialogs() { return *current(); }
-void useDialogs(Dialogs* replacement) { current() = replacement; }
 
 }  // namespace lensbench

@@ -7,6 +7,8 @@
 
 namespace lensbench {
 
+class Clock;
+
 // The title of a box that is given none.
 inline const QString programName = QStringLiteral("Lens Bench");
 
@@ -19,19 +21,25 @@ class Dialogs {
                                           const QString& defaultAnswer) = 0;
   // The box of an error that ends the program.
   virtual void Critical(const QString& title, const QString& text, const QString& informative) = 0;
+
+ protected:
+  Dialogs() = default;
+  Dialogs(const Dialogs&) = default;
+  Dialogs& operator=(const Dialogs&) = default;
 };
 
-// The toolkit's boxes. Timers do not tick while one is open.
+// The toolkit's boxes. The clock is held while one is open.
 class QtDialogs : public Dialogs {
  public:
+  explicit QtDialogs(Clock& clock) : clock_(clock) {}
+
   void MsgBox(const QString& text, const QString& title = {}) override;
   std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                   const QString& defaultAnswer) override;
   void Critical(const QString& title, const QString& text, const QString& informative) override;
-};
 
-// The boxes in use: the toolkit's, unless others have been set. A null pointer brings them back.
-Dialogs& dialogs();
-void useDialogs(Dialogs* replacement);
+ private:
+  Clock& clock_;
+};
 
 }  // namespace lensbench

@@ -1,91 +1,131 @@
 #include "canvas/qt/DrawingArea.h"
 
-#include <cmath>
+#include <algorithm>
 
+#include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimer>
+#include <QScopedValueRollback>
 
-#include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Overlay.h"
 
 namespace lensbench {
+namespace {
+
+const auto frameEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+}  // namespace
 
 DrawingArea::DrawingArea(QWidget* parent)
     : QWidget(parent), canvas_(size(), devicePixelRatioF(), oversamplingFor(devicePixelRatioF())) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  connect(&canvas_, &RasterCanvas::pictureChanged, this, &DrawingArea::showSoon);
+  connect(&canvas_, &RasterCanvas::pictureChanged, this, &DrawingArea::wantFrame);
+  connect(&canvas_, &RasterCanvas::pictureLost, this, &DrawingArea::stale);
   connect(&canvas_, &RasterCanvas::scaleReplaced, this, &DrawingArea::keepOverlaysInPlace);
-  showSoon();
+  wantFrame();
 }
 
 void DrawingArea::fitCanvas() {
   if (devicePixelRatioF() != canvas_.devicePixelRatio()) {
     canvas_.setOversampling(oversamplingFor(devicePixelRatioF()));
   }
-  const QSize old = canvas_.size();
-  canvas_.resize(size(), devicePixelRatioF());
-  if (canvas_.size() != old) emit canvasResized();
-}
-
-void DrawingArea::releaseSizeSoon() {
-  constexpr int moment = 400;  // ms, several times what a window manager needs
-  QTimer::singleShot(moment, this, [this] {
-    if (!isVisible()) return;
-    sizeHeld_ = false;
-    fitCanvas();
-  });
-}
-
-void DrawingArea::resizeEvent(QResizeEvent*) {
-  if (!sizeHeld_) fitCanvas();
-}
-
-// What one handler draws is shown together, when it has returned.
-void DrawingArea::showSoon() {
-  if (showPending_) return;
-  showPending_ = true;
-  QMetaObject::invokeMethod(this, &DrawingArea::refresh, Qt::QueuedConnection);
-}
-
-void DrawingArea::refresh() {
-  showPending_ = false;
-  const QRect dirty = canvas_.takeDirty();
-  if (dirty.isEmpty()) return;
-  const int k = canvas_.oversampling();
-  const QRect device(QPoint(dirty.left() / k, dirty.top() / k),
-                     QPoint(dirty.right() / k, dirty.bottom() / k));
-  if (k > 1) {
-    const QSize size = canvas_.image().size() / k;
-    if (display_.size() != size) display_ = QImage(size, QImage::Format_RGB32);
-    boxFilter(canvas_.image(), display_, device, k);
-  } else {
-    display_ = {};
-  }
+  const QSize size = canvas_.size();
   const double ratio = canvas_.devicePixelRatio();
-  update(QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
-                device.height() / ratio)
-             .toAlignedRect());
+  canvas_.resize(this->size(), devicePixelRatioF());
+  if (canvas_.size() != size || canvas_.devicePixelRatio() != ratio) emit canvasResized();
+}
+
+void DrawingArea::stale() {
+  stale_ = true;
+  wantFrame();
+}
+
+const QImage& DrawingArea::image() {
+  bringUpToDate();
+  return canvas_.image();
+}
+
+void DrawingArea::bringUpToDate() {
+  if (!stale_ || drawing_ || !draw_) return;
+  const QScopedValueRollback busy(drawing_, true);
+  // Until it has been drawn to its end it stays stale.
+  QScopedValueRollback drawn(stale_, false);
+  draw_();
+  drawn.commit();
+}
+
+// Behind all events that have been posted, so that what they change is drawn and shown together.
+void DrawingArea::wantFrame() {
+  if (frameWanted_) return;
+  frameWanted_ = true;
+  QCoreApplication::postEvent(this, new QEvent(frameEvent), Qt::LowEventPriority);
+}
+
+bool DrawingArea::event(QEvent* event) {
+  if (event->type() != frameEvent) return QWidget::event(event);
+  frameWanted_ = false;
+  // What nobody can see is drawn when it is seen again.
+  if (isVisible() && !window()->isMinimized()) frame({});
+  return true;
+}
+
+// Also when a minimised window is restored, which needs not paint it.
+void DrawingArea::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  update();
+}
+
+void DrawingArea::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  strip_ = {};
+  // Without anyone who draws it anew a picture is kept.
+  if (draw_) canvas_.giveUpPixels();
+}
+
+void DrawingArea::frame(const QRegion& painted) {
+  bringUpToDate();
+  const double ratio = canvas_.devicePixelRatio();
+  QRegion logical;
+  for (const QRect& part : canvas_.takeDirty()) {
+    logical +=
+        QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
+            .toAlignedRect();
+  }
+  update(logical - painted);
 }
 
 void DrawingArea::paintEvent(QPaintEvent* event) {
   if (canvas_.devicePixelRatio() != devicePixelRatioF()) fitCanvas();
-  refresh();
-  const QImage& picture = canvas_.oversampling() > 1 ? display_ : canvas_.image();
-  const double ratio = canvas_.devicePixelRatio();
+  frame(event->region());
   QPainter painter(this);
-  for (const QRect& part : event->region()) {
-    const QRectF device(part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                        part.height() * ratio);
-    painter.drawImage(QRectF(part), picture, device);
-  }
+  for (const QRect& part : event->region()) paintPicture(painter, part);
   painter.setRenderHint(QPainter::Antialiasing);
   // As on the canvas, a point stands in the middle of its pixel.
   painter.translate(0.5, 0.5);
   for (const Overlay* overlay : findChildren<Overlay*>(Qt::FindDirectChildrenOnly)) {
     if (overlay->Visible()) overlay->paint(painter);
   }
+}
+
+// Pixel by pixel of the display, whatever its ratio.
+void DrawingArea::paintPicture(QPainter& painter, const QRect& part) {
+  const double ratio = canvas_.devicePixelRatio();
+  const QRect device =
+      QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
+          .toAlignedRect() &
+      QRect(QPoint(0, 0), canvas_.displaySize());
+  // As much as stays in a cache.
+  constexpr int stripHeight = 32;
+  painter.save();
+  painter.scale(1.0 / ratio, 1.0 / ratio);
+  for (int y = device.top(); y <= device.bottom(); y += stripHeight) {
+    const QSize size(device.width(), std::min(stripHeight, device.bottom() + 1 - y));
+    if (strip_.size() != size) strip_ = QImage(size, QImage::Format_RGB32);
+    canvas_.showIn(strip_, {device.left(), y});
+    painter.drawImage(device.left(), y, strip_);
+  }
+  painter.restore();
 }
 
 void DrawingArea::keepOverlaysInPlace(const UserMapping& old) {

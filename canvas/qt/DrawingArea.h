@@ -1,10 +1,14 @@
 // The client area of a form: shows the picture, and over it the shapes and lines.
 #pragma once
 
+#include <functional>
+
 #include <QImage>
 #include <QWidget>
 
 #include "canvas/qt/RasterCanvas.h"
+
+class QPainter;
 
 namespace lensbench {
 
@@ -14,38 +18,51 @@ class DrawingArea : public QWidget {
  public:
   explicit DrawingArea(QWidget* parent);
 
+  // Whoever draws directly is shown; a stale picture read here is still the old one.
   RasterCanvas& canvas() noexcept { return canvas_; }
+
+  // How the picture is brought up to date: called before it is shown or read, while it is stale.
+  void drawBy(std::function<void()> bringUpToDate) { draw_ = std::move(bringUpToDate); }
+  // The picture has to be drawn before the next frame, and that frame is wanted.
+  void stale();
+  // The picture up to date.
+  const QImage& image();
+
   // Gives the canvas the size and the pixel ratio that the widget has.
   void fitCanvas();
-  // Between these the canvas does not follow the size of the widget: a maximised window that is
-  // hidden and shown anew is small for a while, and that must not cut the picture. The release
-  // takes effect a moment later.
-  void holdSize() { sizeHeld_ = true; }
-  void releaseSizeSoon();
 
  signals:
   // In logical pixels of the area.
   void pressed(QMouseEvent* event);
   void moved(QMouseEvent* event);
   void released(QMouseEvent* event);
+  // The canvas has a new size or pixel ratio.
   void canvasResized();
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  void resizeEvent(QResizeEvent*) override { fitCanvas(); }
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override { emit pressed(event); }
   void mouseMoveEvent(QMouseEvent* event) override { emit moved(event); }
   void mouseReleaseEvent(QMouseEvent* event) override { emit released(event); }
 
  private:
-  void showSoon();
-  void refresh();
+  void wantFrame();
+  void bringUpToDate();
+  // Brings the picture up to date and shows what has changed outside what is being painted anyway.
+  void frame(const QRegion& painted);
+  void paintPicture(QPainter& painter, const QRect& part);
   void keepOverlaysInPlace(const UserMapping& old);
 
   RasterCanvas canvas_;
-  QImage display_;  // the picture in device pixels
-  bool showPending_ = false;
-  bool sizeHeld_ = false;
+  QImage strip_;  // of the display, on its way there
+  std::function<void()> draw_;
+  bool stale_ = false;
+  bool drawing_ = false;
+  bool frameWanted_ = false;
 };
 
 }  // namespace lensbench

@@ -1,14 +1,12 @@
-// Filling an area of an image up to a border colour.
+// Filling an area of the drawing surface up to a border colour.
 #pragma once
 
-#include <QRect>
-
-#include "canvas/qt/Pixels.h"
+#include "canvas/qt/Tiles.h"
 
 namespace lensbench {
 
-// Paints the 4-connected area of pixels that are not of the border colour around (x, y), and
-// returns its bounding rectangle: empty when the start lies outside the image or on the border.
-QRect floodFill(const Pixels& pixels, int x, int y, PixelValue border, PixelValue fill);
+// Paints the 4-connected area of pixels that are not of the border colour around (x, y). False when
+// the start lies outside or on the border.
+bool floodFill(Tiles& tiles, int x, int y, PixelValue border, PixelValue fill);
 
 }  // namespace lensbench

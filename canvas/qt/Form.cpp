@@ -1,23 +1,17 @@
 #include "canvas/qt/Form.h"
 
-#include <cmath>
+#include <utility>
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QHelpEvent>
-#include <QLayout>
-#include <QMenuBar>
 #include <QMouseEvent>
-#include <QScreen>
-#include <QShortcut>
-#include <QToolTip>
+#include <QTimer>
+#include <QWindow>
 
 #include "canvas/qt/DrawingArea.h"
+#include "canvas/qt/MenuBar.h"
 
 namespace lensbench {
 namespace {
-
-int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
 
 int buttonNumber(Qt::MouseButtons buttons) {
   return (buttons.testFlag(Qt::LeftButton) ? 1 : 0) | (buttons.testFlag(Qt::RightButton) ? 2 : 0) |
@@ -35,6 +29,7 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   setObjectName(design.name);
   setWindowTitle(design.caption);
   setCentralWidget(area_);
+  setMenuBar(new MenuBar(this));
 
   QPalette colours = palette();
   if (design.background) {
@@ -47,19 +42,11 @@ Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   canvas().BackColor(RGB(background.red(), background.green(), background.blue()));
   canvas().Cls();
 
-  const auto report = [this](auto signal, Qt::MouseButtons buttons, const QMouseEvent* event) {
-    const Point user = canvas().mapping().toUser({event->position().x(), event->position().y()});
-    emit(this->*signal)(buttonNumber(buttons), shiftNumber(event->modifiers()), user.x, user.y);
-  };
-  connect(area_, &DrawingArea::pressed, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseDown, event->button(), event); });
-  connect(area_, &DrawingArea::moved, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseMove, event->buttons(), event); });
+  connect(area_, &DrawingArea::pressed, this, [this](QMouseEvent* event) { mousePressed(*event); });
+  connect(area_, &DrawingArea::moved, this, [this](QMouseEvent* event) { mouseMoved(*event); });
   connect(area_, &DrawingArea::released, this,
-          [=](const QMouseEvent* event) { report(&Form::MouseUp, event->button(), event); });
+          [this](QMouseEvent* event) { mouseReleased(*event); });
   connect(area_, &DrawingArea::canvasResized, this, &Form::Resized);
-  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Form::enterMenuBar);
-  connect(menuBar(), &QMenuBar::triggered, this, &Form::leaveMenuBar);
 
   clientSize(design.width, design.height);
 }
@@ -69,67 +56,12 @@ Form::~Form() = default;
 RasterCanvas& Form::canvas() noexcept { return area_->canvas(); }
 const RasterCanvas& Form::canvas() const noexcept { return area_->canvas(); }
 QWidget* Form::drawingArea() const noexcept { return area_; }
-
-void Form::Show() {
-  show();
-  raise();
-  activateWindow();
-}
-
-double Form::Left() const { return frameGeometry().x() * twipsPerPixel; }
-void Form::Left(double twips) { move(pixels(twips), frameGeometry().y()); }
-double Form::Top() const { return frameGeometry().y() * twipsPerPixel; }
-void Form::Top(double twips) { move(frameGeometry().x(), pixels(twips)); }
-double Form::Width() const { return frameGeometry().width() * twipsPerPixel; }
-void Form::Width(double twips) { outerSize({pixels(twips), frameGeometry().height()}); }
-double Form::Height() const { return frameGeometry().height() * twipsPerPixel; }
-void Form::Height(double twips) { outerSize({frameGeometry().width(), pixels(twips)}); }
-
-void Form::clientSize(double width, double height) {
-  client_ = QSize(pixels(width), pixels(height));
-  outer_.reset();
-  settle();
-  resize(size() + *client_ - area_->size());
-  settle();
-}
-
-void Form::outerSize(QSize size) {
-  client_.reset();
-  outer_ = size;
-  setWindowState(windowState() & ~Qt::WindowMaximized);
-  frame_ = frameGeometry().size() - geometry().size();
-  resize(size - frame_);
-  settle();
-}
-
-void Form::fitFrame() {
-  // The window manager adds its frame only when the window is mapped.
-  const QSize frame = frameGeometry().size() - geometry().size();
-  if (!outer_ || hadInput_ || isMaximized() || !isVisible() || frame == frame_) return;
-  frame_ = frame;
-  resize(*outer_ - frame_);
-}
-
-void Form::fillDisplay() {
-  client_.reset();
-  outer_.reset();
-  setScreen(QGuiApplication::primaryScreen());
-  setWindowState(windowState() | Qt::WindowMaximized);
-}
+const QImage& Form::image() { return area_->image(); }
 
 void Form::addMenuEntry(QAction* entry) {
-  if (menuBar()->actions().isEmpty()) menuBar()->installEventFilter(this);
   menuBar()->addAction(entry);
   // The bar takes its height from the window and not from the client area.
-  if (client_ && !shown_)
-    clientSize(client_->width() * twipsPerPixel, client_->height() * twipsPerPixel);
-}
-
-// Lays out at once, also while hidden, so that the canvas has its size before anything is drawn.
-void Form::settle() {
-  layout()->invalidate();
-  layout()->activate();
-  area_->fitCanvas();
+  if (client_) clientSize(client_->width() * twipsPerPixel, client_->height() * twipsPerPixel);
 }
 
 void Form::MousePointer(int shape) {
@@ -144,6 +76,40 @@ void Form::MousePointer(int shape) {
   }
 }
 
+void Form::report(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent& event) {
+  const Point user = canvas().mapping().toUser({event.position().x(), event.position().y()});
+  emit(this->*signal)(buttonNumber(buttons), shiftNumber(event.modifiers()), user.x, user.y);
+}
+
+void Form::mousePressed(const QMouseEvent& event) {
+  if (event.button() == Qt::LeftButton) {
+    endDrag();
+    dragging_ = true;
+  }
+  report(&Form::MouseDown, event.button(), event);
+}
+
+void Form::mouseMoved(const QMouseEvent& event) {
+  if (!event.buttons().testFlag(Qt::LeftButton)) endDrag();
+  report(&Form::MouseMove, event.buttons(), event);
+}
+
+void Form::mouseReleased(const QMouseEvent& event) {
+  // A drag that was told to have ended stays so, even if its release comes after all.
+  if (event.button() == Qt::LeftButton && !std::exchange(dragging_, false)) return;
+  report(&Form::MouseUp, event.button(), event);
+}
+
+void Form::endDrag() {
+  if (std::exchange(dragging_, false)) emit DragEnded();
+}
+
+bool Form::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked) endDrag();
+  if (event->type() == QEvent::WindowStateChange) stateChanged();
+  return QMainWindow::event(event);
+}
+
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
   emit CloseBox();
@@ -151,65 +117,43 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  area_->releaseSizeSoon();
-  if (!shown_) {
-    shown_ = true;
-    qApp->installEventFilter(this);
-  }
+  if (event->spontaneous()) return;
+  windowHandle()->installEventFilter(this);
+  connect(windowHandle(), &QWindow::screenChanged, this, &Form::followScreen, Qt::UniqueConnection);
+  followScreen(screen());
+  managerAwaited_ = true;
   fitFrame();
 }
 
 void Form::hideEvent(QHideEvent* event) {
-  if (isMaximized()) area_->holdSize();
   QMainWindow::hideEvent(event);
+  endDrag();
 }
 
 void Form::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
+  if (isVisible() && isOrdinary()) beforeResize_ = event->oldSize();
   fitFrame();
 }
 
 void Form::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
+  if (isVisible() && isOrdinary()) beforeMove_ = event->oldPos();
   fitFrame();
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* event) {
-  markInput(watched, *event);
-  if (event->type() == QEvent::ToolTip && watched == menuBar()) {
-    showMenuToolTip(*event);
-    return true;
-  }
-  if (event->type() == QEvent::KeyRelease && watched == menuBar() &&
-      static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    leaveMenuBar();
+  if (watched == windowHandle()) {
+    // A window manager that there is has placed the window by now.
+    if (event->type() == QEvent::Expose && std::exchange(managerAwaited_, false)) {
+      QTimer::singleShot(0, this, [this] {
+        fillWithoutManager();
+        fitFrame();
+      });
+    }
+    return false;
   }
   return QMainWindow::eventFilter(watched, event);
-}
-
-void Form::markInput(const QObject* watched, const QEvent& event) {
-  const bool press = event.type() == QEvent::KeyPress || event.type() == QEvent::MouseButtonPress ||
-                     event.type() == QEvent::MouseButtonDblClick;
-  if (hadInput_ || !press || !watched->isWidgetType()) return;
-  hadInput_ = static_cast<const QWidget*>(watched)->window() == this;
-  if (hadInput_) qApp->removeEventFilter(this);
-}
-
-void Form::showMenuToolTip(const QEvent& event) {
-  const auto& help = static_cast<const QHelpEvent&>(event);
-  const QAction* entry = menuBar()->actionAt(help.pos());
-  QToolTip::showText(help.globalPos(), entry == nullptr ? QString() : entry->toolTip(), menuBar());
-}
-
-void Form::enterMenuBar() {
-  if (menuBar()->actions().isEmpty() || menuBar()->hasFocus()) return;
-  beforeMenu_ = focusWidget();
-  menuBar()->setFocus(Qt::MenuBarFocusReason);
-  menuBar()->setActiveAction(menuBar()->actions().constFirst());
-}
-
-void Form::leaveMenuBar() {
-  if (menuBar()->hasFocus() && beforeMenu_) beforeMenu_->setFocus(Qt::MenuBarFocusReason);
 }
 
 }  // namespace lensbench

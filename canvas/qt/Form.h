@@ -4,13 +4,14 @@
 #include <optional>
 
 #include <QMainWindow>
-#include <QPointer>
+#include <QMargins>
 #include <QString>
 
 #include "canvas/Rgb.h"
 #include "canvas/qt/RasterCanvas.h"
 
 class QMouseEvent;
+class QScreen;
 
 namespace lensbench {
 
@@ -41,14 +42,19 @@ class Form : public QMainWindow {
 
   RasterCanvas& canvas() noexcept;
   const RasterCanvas& canvas() const noexcept;
-  // The parent of the controls; its size is the client area.
+  // The picture as anyone reads it, brought up to date first.
+  const QImage& image();
+  DrawingArea& area() noexcept { return *area_; }
+  // The same as the parent of the controls; its size is the client area.
   QWidget* drawingArea() const noexcept;
 
-  // Makes the form visible and brings it to the front.
+  // Ends with a visible window in front of the others: one that was minimised is restored, one that
+  // was hidden comes back where and as large as it was.
   void Show();
-  void Hide() { hide(); }
+  void Hide();
 
-  // The window with its frame, as far as the toolkit knows the frame, in twips.
+  // The window with its frame, as far as the toolkit knows the frame, in twips. Writing one of them
+  // makes a maximised or minimised window an ordinary one.
   double Left() const;
   void Left(double twips);
   double Top() const;
@@ -57,6 +63,8 @@ class Form : public QMainWindow {
   void Width(double twips);
   double Height() const;
   void Height(double twips);
+  // Whether the window stands elsewhere than where Left and Top were last written.
+  bool movedByHand() const;
   // Sizes the window so that its client area has this size, in twips.
   void clientSize(double width, double height);
   // A command in the menu bar itself.
@@ -73,21 +81,22 @@ class Form : public QMainWindow {
   int MousePointer() const noexcept { return mousePointer_; }
   void MousePointer(int shape);
 
-  // Whether a key or a mouse button has been pressed in the form since it was first shown.
-  bool hadInput() const noexcept { return hadInput_; }
-
  signals:
   // Button: 1 left, 2 right, 4 middle; for MouseMove the sum of those held. Shift: 1 shift,
   // 2 control, 4 alt. X, Y in user units, also outside the client area while a button is held.
   void MouseDown(int Button, int Shift, double X, double Y);
   void MouseMove(int Button, int Shift, double X, double Y);
   void MouseUp(int Button, int Shift, double X, double Y);
-  // The client area has a new size, and the canvas with it.
+  // The left button was pressed here, and its release will not be told, not even when it comes: the
+  // mouse came back without it, a box stands in front of the form, or the form is out of sight.
+  void DragEnded();
+  // The client area has a new size or pixel ratio, and the canvas with it.
   void Resized();
   // The window frame was asked to close the form, which it does not do by itself.
   void CloseBox();
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -96,23 +105,46 @@ class Form : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void mousePressed(const QMouseEvent& event);
+  void mouseMoved(const QMouseEvent& event);
+  void mouseReleased(const QMouseEvent& event);
+  using MouseSignal = void (Form::*)(int, int, double, double);
+  void report(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent& event);
+  void endDrag();
+
   void settle();
-  void fitFrame();
+  // Whether the window is neither maximised nor minimised.
+  bool isOrdinary() const;
+  void keepOrdinary();
+  void makeOrdinary();
+  void stateChanged();
+  void becomeOrdinary();
+  QRect framed() const;
+  void moveFrame(QPoint upperLeft);
   void outerSize(QSize size);
-  void markInput(const QObject* watched, const QEvent& event);
-  void showMenuToolTip(const QEvent& event);
-  void enterMenuBar();
-  // The keyboard goes back to where it was before it entered the menu bar.
-  void leaveMenuBar();
+  void fitFrame();
+  bool reachable() const;
+  // Makes an ordinary window no larger than the display, and moves it there.
+  void keepOnDisplay();
+  void followScreen(QScreen* screen);
+  void displayChanged();
+  // Whether it is about as large as the display.
+  bool isLarge() const;
+  void fillWithoutManager();
 
   DrawingArea* area_;
-  QPointer<QWidget> beforeMenu_;
-  std::optional<QSize> client_;  // the client area asked for, until the form is shown
-  std::optional<QSize> outer_;   // the size with frame asked for
-  QSize frame_;                  // what the frame added when outer_ was last applied
-  bool shown_ = false;
+  std::optional<QSize> client_;    // the client area asked for, until the form is shown
+  std::optional<QSize> outer_;     // the size with frame last written
+  std::optional<QPoint> written_;  // the place of the frame last written
+  QMargins frame_;                 // of the window when it was last seen as an ordinary one
+  std::optional<QRect> ordinary_;  // of a maximised window, where the toolkit will not know it
+  QPoint beforeMove_;              // of an ordinary window, before the last change
+  QSize beforeResize_;
+  QMetaObject::Connection display_;
+  bool managerAwaited_ = false;  // just shown, and nobody has answered yet
+  bool alone_ = false;           // it fills the display without a window manager
+  bool dragging_ = false;
   bool autoRedraw_ = false;
-  bool hadInput_ = false;
   int mousePointer_ = 0;
 };
 

@@ -2,11 +2,11 @@
 
 namespace lensbench {
 
-Label::Label(Form& form, const QString& name, const Place& place) : Control(form, name, place) {
+Label::Label(Form& form, const QString& name, const Place& place)
+    : PlainControl(form, name, place) {
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  setAutoFillBackground(true);
 }
 
 }  // namespace lensbench

@@ -7,7 +7,7 @@
 
 namespace lensbench {
 
-class Label : public Control<QLabel> {
+class Label : public PlainControl<QLabel> {
   Q_OBJECT
 
  public:

@@ -1,12 +1,30 @@
 #include "canvas/qt/LineControl.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QLineF>
 #include <QPainter>
 #include <QPen>
+#include <QTransform>
 
 namespace lensbench {
+namespace {
+
+// The middle of a stroke of whole device pixels nearest to the given one; of two that are as near,
+// the one further left or up, as on the canvas.
+double wholePixels(double middle, double width) {
+  constexpr double tieBreak = 1.0 / 1024.0;
+  return std::ceil(middle - width / 2.0 - 0.5 - tieBreak) + width / 2.0;
+}
+
+// An upright stroke with its ends in device pixels, which it all covers.
+QLineF upright(double middle, double end1, double end2, double width) {
+  const double x = wholePixels(middle, width);
+  return {x, std::floor(std::min(end1, end2)), x, std::ceil(std::max(end1, end2))};
+}
+
+}  // namespace
 
 LineControl::LineControl(Form& form, const QString& name, const Ends& ends) : Overlay(form, name) {
   const UserMapping map = mapping();
@@ -55,8 +73,19 @@ QRectF LineControl::bounds() const {
 }
 
 void LineControl::paint(QPainter& painter) const {
-  painter.setPen(border(width_));
-  painter.drawLine(onScreen());
+  const QTransform toDevice = painter.deviceTransform();
+  const QLineF line = toDevice.map(onScreen());
+  const double ratio = toDevice.m11();
+  const double width = std::max(1.0, std::round(width_ * ratio));
+  QLineF device = line;
+  if (line.x1() == line.x2()) {
+    device = upright(line.x1(), line.y1(), line.y2(), width);
+  } else if (line.y1() == line.y2()) {
+    const QLineF turned = upright(line.y1(), line.x1(), line.x2(), width);
+    device = {turned.y1(), turned.x1(), turned.y2(), turned.x2()};
+  }
+  painter.setPen(border(width / ratio));
+  painter.drawLine(toDevice.inverted().map(device));
 }
 
 void LineControl::convert(const UserMapping& from, const UserMapping& to) {

@@ -35,9 +35,11 @@ class LineControl : public Overlay {
   void paint(QPainter& painter) const override;
   void convert(const UserMapping& from, const UserMapping& to) override;
 
- private:
-  QLineF onScreen() const;
+ protected:
+  // What is painted, logical pixels.
+  virtual QLineF onScreen() const;
 
+ private:
   Point from_;
   Point to_;
   int width_ = 1;

@@ -7,7 +7,7 @@ namespace lensbench {
 MenuEntry::MenuEntry(Form& form, const QString& name, const QString& caption)
     : QAction(&form), caption_(caption) {
   setObjectName(name);
-  showCaption();
+  setText(QString(caption).replace('&', "&&"));
   form.addMenuEntry(this);
   connect(this, &QAction::triggered, this, [this] {
     // The toolkit has turned the mark over already.
@@ -16,22 +16,10 @@ MenuEntry::MenuEntry(Form& form, const QString& name, const QString& caption)
   });
 }
 
-void MenuEntry::Caption(const QString& caption) {
-  caption_ = caption;
-  showCaption();
-}
-
 void MenuEntry::Checked(bool checked) {
   checked_ = checked;
   setCheckable(true);
   setChecked(checked);
-  showCaption();
-}
-
-// A menu bar draws no check marks of its own, so the mark is part of the text.
-void MenuEntry::showCaption() {
-  setText((checked_ ? QStringLiteral("\u2713 ") : QString()) +
-          QString(caption_).replace('&', "&&"));
 }
 
 }  // namespace lensbench

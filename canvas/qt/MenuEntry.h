@@ -15,9 +15,8 @@ class MenuEntry : public QAction {
   MenuEntry(Form& form, const QString& name, const QString& caption);
 
   QString Caption() const { return caption_; }
-  void Caption(const QString& caption);
   // The check mark; only code sets and takes it. Once it has been set or taken, the entry is one
-  // that carries a mark, for those who cannot see it too.
+  // that carries a mark and keeps room for it.
   bool Checked() const noexcept { return checked_; }
   void Checked(bool checked);
 
@@ -25,8 +24,6 @@ class MenuEntry : public QAction {
   void Click();
 
  private:
-  void showCaption();
-
   QString caption_;
   bool checked_ = false;
 };

@@ -3,11 +3,7 @@
 namespace lensbench {
 
 OptionButton::OptionButton(Form& form, const QString& name, const Place& place)
-    : Control(form, name, place) {
-  // On the form's own background, not on a button's.
-  setBackgroundRole(QPalette::Window);
-  setForegroundRole(QPalette::WindowText);
-  setAutoFillBackground(true);
+    : PlainControl(form, name, place) {
   connect(this, &QRadioButton::clicked, this, &OptionButton::Click);
 }
 

@@ -7,7 +7,7 @@
 
 namespace lensbench {
 
-class OptionButton : public Control<QRadioButton> {
+class OptionButton : public PlainControl<QRadioButton> {
   Q_OBJECT
 
  public:

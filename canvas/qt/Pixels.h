@@ -1,10 +1,9 @@
-// A view of the pixels of a 32-bit image, written directly.
+// The pixel values of the drawing surface.
 #pragma once
 
-#include <algorithm>
-#include <cstddef>
+#include <cstdint>
 
-#include <QImage>
+#include <QtGlobal>
 
 #include "canvas/Rgb.h"
 
@@ -17,27 +16,15 @@ constexpr PixelValue opaque(Rgb colour) noexcept {
          static_cast<PixelValue>(colour.green()) << 8 | static_cast<PixelValue>(colour.blue());
 }
 
-// Valid only until the image is copied, resized or destroyed: take a new view for each operation.
-struct Pixels {
-  explicit Pixels(QImage& image)
-      : first(reinterpret_cast<PixelValue*>(image.bits())),
-        stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue))),
-        width(image.width()),
-        height(image.height()) {}
+// 32 bits of whole pixels, 32 of fraction.
+using Fixed = std::int64_t;
+constexpr int whole(Fixed value) noexcept { return static_cast<int>(value >> 32); }
 
-  PixelValue* row(int y) const noexcept { return first + stride * y; }
-
-  // Paints columns from to (until - 1) of a row of the image, as far as they lie in it.
-  void fill(int y, int from, int until, PixelValue colour) const noexcept {
-    PixelValue* const line = row(y);
-    std::fill(line + std::max(from, 0), line + std::max(std::min(until, width), std::max(from, 0)),
-              colour);
-  }
-
-  PixelValue* first;
-  std::ptrdiff_t stride;
-  int width;
-  int height;
+// Rows top to bottom - 1 of a figure with straight borders: the first row has the columns
+// whole(left) to whole(right) - 1, and from row to row both borders go on by step.
+struct Band {
+  int top, bottom;
+  Fixed left, right, step;
 };
 
 }  // namespace lensbench

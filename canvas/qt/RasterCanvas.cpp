@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QString>
 
+#include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Chords.h"
 #include "canvas/qt/FloodFill.h"
 #include "canvas/qt/Fonts.h"
@@ -21,23 +22,11 @@ constexpr double dotPeriod = 4.0;
 
 int imagePixels(double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); }
 
-Box boxOf(const Pixels& pixels, double margin) {
-  return {-margin, -margin, pixels.width + margin, pixels.height + margin};
+Box boxOf(const Tiles& tiles, double margin) {
+  return {-margin, -margin, tiles.width() + margin, tiles.height() + margin};
 }
 
 bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
-
-// The bounding rectangle of figures around a segment, cut to the image.
-QRect around(const Pixels& pixels, const Segment& s, double margin) {
-  const auto cut = [](double v, int limit) {
-    return static_cast<int>(std::clamp(std::floor(v), 0.0, limit - 1.0));
-  };
-  const QPoint first(cut(std::min(s.from.x, s.to.x) - margin, pixels.width),
-                     cut(std::min(s.from.y, s.to.y) - margin, pixels.height));
-  const QPoint last(cut(std::max(s.from.x, s.to.x) + margin, pixels.width),
-                    cut(std::max(s.from.y, s.to.y) + margin, pixels.height));
-  return {first, last};
-}
 
 }  // namespace
 
@@ -56,76 +45,75 @@ RasterCanvas::RasterCanvas(QSize logical, double devicePixelRatio, int oversampl
     : logical_(logical.expandedTo({1, 1})),
       ratio_(devicePixelRatio),
       oversampling_(std::max(1, oversampling)),
-      mapping_(currentMapping()),
-      image_(imageSize(logical_, imagePixelsPerPixel()), QImage::Format_RGB32) {
-  image_.fill(opaque(painted(BackColor())));
-  dirty_ = image_.rect();
+      mapping_(mappingOf(*this)),
+      tiles_(imageSize(), background()) {}
+
+const QImage& RasterCanvas::image() const {
+  tiles_.copyTo(image_);
+  return image_;
 }
 
-UserMapping RasterCanvas::currentMapping() const {
-  return {ScaleLeft(), ScaleTop(), ScaleX(1.0, ScaleUnit::User, ScaleUnit::Pixel),
-          ScaleY(1.0, ScaleUnit::User, ScaleUnit::Pixel)};
+void RasterCanvas::showIn(QImage& target, QPoint at) const {
+  boxFilter(tiles_, target, at, oversampling_);
 }
 
-QSize RasterCanvas::imageSize(QSize logical, double pixelsPerPixel) const {
+QSize RasterCanvas::imageSize() const {
   // Whole device pixels, so that each has all its k x k image pixels.
-  const double device = pixelsPerPixel / oversampling_;
-  return QSize(static_cast<int>(std::ceil(logical.width() * device)),
-               static_cast<int>(std::ceil(logical.height() * device))) *
+  return QSize(static_cast<int>(std::ceil(logical_.width() * ratio_)),
+               static_cast<int>(std::ceil(logical_.height() * ratio_))) *
          oversampling_;
 }
 
 void RasterCanvas::resize(QSize logical, double devicePixelRatio) {
   const QSize size = logical.expandedTo({1, 1});
-  const double oldPixelsPerPixel = imagePixelsPerPixel();
   const QSize old = logical_;
-  if (size == old && devicePixelRatio == ratio_) return;
+  const bool sameGrid = devicePixelRatio == ratio_;
+  if (size == old && sameGrid) return;
   logical_ = size;
   ratio_ = devicePixelRatio;
   keepScaleAfterResize(old.width(), old.height());
-  mapping_ = currentMapping();
-  resample(oldPixelsPerPixel);
+  mapping_ = mappingOf(*this);
+  if (!sameGrid) {
+    loseAll();
+    return;
+  }
+  tiles_.resize(imageSize(), background());
+  tellChange();
+  emit pictureLost();
 }
 
 void RasterCanvas::setOversampling(int k) {
   if (k == oversampling_ || k < 1) return;
-  const double oldPixelsPerPixel = imagePixelsPerPixel();
   oversampling_ = k;
-  resample(oldPixelsPerPixel);
+  loseAll();
 }
 
-void RasterCanvas::resample(double oldPixelsPerPixel) {
-  const double pixelsPerPixel = imagePixelsPerPixel();
-  QImage old = std::move(image_);
-  if (pixelsPerPixel != oldPixelsPerPixel) {
-    const double zoom = pixelsPerPixel / oldPixelsPerPixel;
-    old = old.scaled(imagePixels(old.width() * zoom), imagePixels(old.height() * zoom),
-                     Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-              .convertToFormat(QImage::Format_RGB32);
+void RasterCanvas::giveUpPixels() { loseAll(); }
+
+void RasterCanvas::loseAll() {
+  tiles_ = Tiles(imageSize(), background());
+  image_ = {};
+  tellChange();
+  emit pictureLost();
+}
+
+QRegion RasterCanvas::takeDirty() {
+  told_ = false;
+  const QRegion changed = tiles_.takeChanged();
+  const int k = oversampling_;
+  if (k == 1) return changed;
+  QRegion display;
+  for (const QRect& part : changed) {
+    display +=
+        QRect(QPoint(part.left() / k, part.top() / k), QPoint(part.right() / k, part.bottom() / k));
   }
-  image_ = QImage(imageSize(logical_, pixelsPerPixel), QImage::Format_RGB32);
-  image_.fill(opaque(painted(BackColor())));
-  QPainter(&image_).drawImage(0, 0, old);
-  dirty_ = {};
-  markDirty(image_.rect());
+  return display;
 }
 
-QRect RasterCanvas::takeDirty() {
-  const QRect changed = dirty_ & image_.rect();
-  dirty_ = {};
-  return changed;
-}
-
-inline void RasterCanvas::markDirty(const QRect& changed) {
-  if (changed.isEmpty()) return;
-  if (dirty_.isEmpty()) {
-    dirty_ = changed;
-    emit pictureChanged();
-    return;
-  }
-  dirty_.setCoords(std::min(dirty_.left(), changed.left()), std::min(dirty_.top(), changed.top()),
-                   std::max(dirty_.right(), changed.right()),
-                   std::max(dirty_.bottom(), changed.bottom()));
+inline void RasterCanvas::tellChange() {
+  if (told_ || !tiles_.changed()) return;
+  told_ = true;
+  emit pictureChanged();
 }
 
 FarPoint RasterCanvas::toImageFar(Point user) const {
@@ -147,16 +135,15 @@ inline RasterCanvas::Stroke RasterCanvas::stroke(const Pen& pen) const {
 }
 
 void RasterCanvas::clear(Rgb colour) {
-  image_.fill(opaque(colour));
-  markDirty(image_.rect());
+  tiles_.clear(opaque(colour));
+  tellChange();
 }
 
 void RasterCanvas::strokeLine(Point from, Point to, const Pen& pen) {
   // One order for both directions, so that they paint the same pixels.
   if (from.y > to.y || (from.y == to.y && from.x > to.x)) std::swap(from, to);
   const Stroke pencil = stroke(pen);
-  const Pixels pixels(image_);
-  const auto visible = clipped(toImageFar(from), toImageFar(to), boxOf(pixels, pencil.margin()));
+  const auto visible = clipped(toImageFar(from), toImageFar(to), boxOf(tiles_, pencil.margin()));
   if (!visible) return;
   if (pencil.dotted) {
     // The dots have fixed places along the endless line, so clipping does not shift them.
@@ -165,23 +152,22 @@ void RasterCanvas::strokeLine(Point from, Point to, const Pen& pen) {
     const double length = std::hypot(dx, dy);
     const double phase =
         length > 0.0 ? (visible->from.x * dx + visible->from.y * dy) / length : 0.0;
-    paintDashes(pixels, pencil, *visible, phase);
+    paintDashes(pencil, *visible, phase);
   } else {
-    paintPiece(pixels, pencil, *visible);
+    paintPiece(pencil, *visible);
   }
-  markDirty(around(pixels, *visible, pencil.radius() + 1.0));
+  tellChange();
 }
 
-void RasterCanvas::paintPiece(const Pixels& pixels, const Stroke& pencil, const Segment& line) {
+void RasterCanvas::paintPiece(const Stroke& pencil, const Segment& line) {
   if (pencil.width == 1) {
-    strokeThin(pixels, line, pencil.colour);
+    strokeThin(tiles_, line, pencil.colour);
   } else {
-    strokeRound(pixels, line, pencil.radius(), pencil.colour);
+    strokeRound(tiles_, line, pencil.radius(), pencil.colour);
   }
 }
 
-void RasterCanvas::paintDashes(const Pixels& pixels, const Stroke& pencil, const Segment& line,
-                               double phase) {
+void RasterCanvas::paintDashes(const Stroke& pencil, const Segment& line, double phase) {
   const double scale = imagePixelsPerPixel();
   const double period = dotPeriod * scale;
   // The round ends of the pen are part of the dot.
@@ -198,7 +184,7 @@ void RasterCanvas::paintDashes(const Pixels& pixels, const Stroke& pencil, const
   for (double from = -offset; from <= length; from += period) {
     const double first = std::max(from, 0.0);
     const double last = std::min(from + on, length);
-    if (first <= last) paintPiece(pixels, pencil, {at(first), at(last)});
+    if (first <= last) paintPiece(pencil, {at(first), at(last)});
   }
 }
 
@@ -208,9 +194,7 @@ void RasterCanvas::strokeCircle(Point centre, double radius, const Pen& pen,
     const Point middle = toImage(centre);
     const double reach = radius * std::fabs(mapping_.xPixels) * imagePixelsPerPixel();
     if (isFinite(middle) && std::isfinite(reach)) {
-      const Pixels pixels(image_);
-      fillDisc(pixels, middle, reach, opaque(*fill));
-      markDirty(around(pixels, {middle, middle}, reach + 1.0));
+      fillDisc(tiles_, middle, reach, opaque(*fill));
     }
   }
   paintArc(centre, radius, pen, 0.0, 2.0 * std::numbers::pi);
@@ -229,42 +213,42 @@ void RasterCanvas::paintArc(Point centre, double radius, const Pen& pen, double 
   // Where x grows leftward, so does angle 0 point.
   const double zero = mapping_.xPixels < 0.0 ? std::numbers::pi : 0.0;
   const Stroke pencil = stroke(pen);
-  const Pixels pixels(image_);
-  const Box box = boxOf(pixels, pencil.margin());
-  QRect changed;
+  const Box box = boxOf(tiles_, pencil.margin());
   const auto paint = [&](const Segment& chord, double along) {
     const auto visible = clipped({chord.from.x, chord.from.y}, {chord.to.x, chord.to.y}, box);
     if (!visible) return;
     if (pencil.dotted) {
       const double cut = std::hypot(visible->from.x - chord.from.x, visible->from.y - chord.from.y);
-      paintDashes(pixels, pencil, *visible, along + cut);
+      paintDashes(pencil, *visible, along + cut);
     } else {
-      paintPiece(pixels, pencil, *visible);
+      paintPiece(pencil, *visible);
     }
-    changed |= around(pixels, *visible, pencil.radius() + 1.0);
   };
   Chords({middle, reach, start + zero, sweep}).visitNear(box, paint);
-  markDirty(changed);
+  tellChange();
 }
 
-void RasterCanvas::paintDot(Point centre, const Pen& pen) {
-  const Point middle = toImage(centre);
-  const int width = stroke(pen).width;
-  const Pixels pixels(image_);
-  // Also where the numbers no longer fit a pixel index.
-  if (!(middle.x > -width && middle.x < pixels.width + width && middle.y > -width &&
-        middle.y < pixels.height + width)) {
-    return;
-  }
+void RasterCanvas::paintDot(Point centre, const Pen& pen) { paintDots({&centre, 1}, pen); }
+
+void RasterCanvas::paintDots(std::span<const Point> centres, const Pen& pen) {
+  const Stroke pencil = stroke(pen);
+  const int width = pencil.width;
   if (stamp_.diameter() != width) stamp_ = DotStamp(width);
   // The upper-left pixel is the nearest to half a width before the middle; lifted above zero,
   // where truncation rounds down.
   const int lift = 2 * width;
   const double corner = lift + 0.5 - width / 2.0;
-  const int left = static_cast<int>(middle.x + corner) - lift;
-  const int top = static_cast<int>(middle.y + corner) - lift;
-  stamp_.paint(pixels, left, top, opaque(pen.colour));
-  markDirty(QRect(left, top, width, width));
+  const int right = tiles_.width() + width;
+  const int bottom = tiles_.height() + width;
+  for (const Point& centre : centres) {
+    const Point middle = toImage(centre);
+    // False also where the numbers no longer fit a pixel index.
+    if (middle.x > -width && middle.x < right && middle.y > -width && middle.y < bottom) {
+      stamp_.paint(tiles_, static_cast<int>(middle.x + corner) - lift,
+                   static_cast<int>(middle.y + corner) - lift, pencil.colour);
+    }
+  }
+  tellChange();
 }
 
 double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Font& font,
@@ -273,7 +257,9 @@ double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Fon
   QFont face(installedFamily(QString::fromStdString(font.name)));
   face.setPixelSize(imagePixels(font.size * 96.0 / 72.0 * scale));
   face.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-  const QFontMetricsF metrics(face, &image_);
+  // Metrics as an image has them, of whatever size.
+  QImage page(1, 1, QImage::Format_RGB32);
+  const QFontMetricsF metrics(face, &page);
   const double lineHeight = metrics.lineSpacing() / scale;
 
   // The corner of the pixel, not its middle, is where text begins.
@@ -282,30 +268,45 @@ double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Fon
   const QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   const QPointF baseline(corner.x(), corner.y() + metrics.ascent());
   const QRectF bounds = metrics.boundingRect(words).translated(baseline);
-  const QRectF image(image_.rect());
-  if (!isFinite(middle) || !bounds.adjusted(-2, -2, 2, 2).intersects(image)) return lineHeight;
-  QPainter painter(&image_);
+  const QRectF all(0.0, 0.0, tiles_.width(), tiles_.height());
+  const QRectF touched = bounds.adjusted(-2, -2, 2, 2) & all;
+  if (!isFinite(middle) || touched.isEmpty()) return lineHeight;
+  // Blended with what is there: copied out, drawn on, and put back.
+  const QRect area = touched.toAlignedRect() & all.toRect();
+  page = QImage(area.size(), QImage::Format_RGB32);
+  boxFilter(tiles_, page, area.topLeft(), 1);
+  QPainter painter(&page);
+  painter.translate(-area.topLeft());
   painter.setFont(face);
   painter.setPen(QColor::fromRgb(opaque(colour)));
   painter.drawText(baseline, words);
-  markDirty(bounds.adjusted(-2, -2, 2, 2).intersected(image).toAlignedRect() & image_.rect());
+  painter.end();
+  for (int y = 0; y < page.height(); ++y) {
+    const auto* const row = reinterpret_cast<const PixelValue*>(page.constScanLine(y));
+    for (int x = 0; x < page.width(); ++x) {
+      if (tiles_.at(area.left() + x, area.top() + y) == row[x]) continue;
+      tiles_.set(area.left() + x, area.top() + y, row[x]);
+    }
+  }
+  tellChange();
   return lineHeight;
 }
 
 bool RasterCanvas::fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) {
   if (!QRect(QPoint(0, 0), logical_).contains(pixelX, pixelY)) return false;
   const double scale = imagePixelsPerPixel();
-  const QRect filled =
-      floodFill(Pixels(image_), static_cast<int>((pixelX + 0.5) * scale),
+  const bool filled =
+      floodFill(tiles_, static_cast<int>((pixelX + 0.5) * scale),
                 static_cast<int>((pixelY + 0.5) * scale), opaque(border), opaque(fill));
-  markDirty(filled);
-  return !filled.isEmpty();
+  tellChange();
+  return filled;
 }
 
 void RasterCanvas::scaleChanged() {
   const UserMapping old = mapping_;
-  mapping_ = currentMapping();
+  mapping_ = mappingOf(*this);
   emit scaleReplaced(old);
+  if (mapping_ != old) emit pictureLost();
 }
 
 }  // namespace lensbench

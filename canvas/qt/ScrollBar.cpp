@@ -1,6 +1,7 @@
 #include "canvas/qt/ScrollBar.h"
 
 #include <QPainter>
+#include <QStyleOptionSlider>
 
 namespace lensbench {
 
@@ -20,6 +21,13 @@ void ScrollBar::range(int least, int most, int largeStep, int value) {
   LargeChange(largeStep);
   SmallChange(1);
   Value(value);
+}
+
+void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
+  QScrollBar::initStyleOption(option);
+  // The styles draw the arrows in the colour of text on the background, which here is the form's
+  // own and light; but they stand on buttons of the desktop's colour.
+  option->palette.setColor(QPalette::WindowText, option->palette.color(QPalette::ButtonText));
 }
 
 void ScrollBar::paintEvent(QPaintEvent* event) {

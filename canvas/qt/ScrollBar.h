@@ -33,6 +33,7 @@ class ScrollBar : public Control<QScrollBar> {
   void Change();
 
  protected:
+  void initStyleOption(QStyleOptionSlider* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

@@ -10,14 +10,13 @@ namespace {
 // The shortest time between two ticks in whole ms: one frame of a display that shows 60 a second.
 constexpr int frame = 17;
 
-int holds = 0;
-
 }  // namespace
 
-Timer::Timer(Form& form, const QString& name) : QObject(&form), source_(makeTickSource()) {
+Timer::Timer(Form& form, const QString& name, Clock& clock)
+    : QObject(&form), source_(clock.tickSource()) {
   setObjectName(name);
-  source_->onTick = [this] {
-    if (holds == 0) emit Tick();
+  source_->onTick = [this, &clock] {
+    if (!clock.held()) emit Tick();
   };
 }
 
@@ -37,8 +36,5 @@ void Timer::restart() {
   source_->stop();
   if (enabled_ && interval_ > 0) source_->start(std::max(interval_, frame));
 }
-
-TickHold::TickHold() { ++holds; }
-TickHold::~TickHold() { --holds; }
 
 }  // namespace lensbench

@@ -5,19 +5,19 @@
 
 #include <QObject>
 
-#include "canvas/qt/TickSource.h"
+#include "canvas/qt/Clock.h"
 
 namespace lensbench {
 
 class Form;
 
 // Ticks no more often than a display shows frames, so that every step of an animation is seen, and
-// not at all while ticks are held.
+// not at all while its clock is held.
 class Timer : public QObject {
   Q_OBJECT
 
  public:
-  Timer(Form& form, const QString& name);
+  Timer(Form& form, const QString& name, Clock& clock);
   ~Timer() override;
 
   bool Enabled() const noexcept { return enabled_; }
@@ -36,15 +36,6 @@ class Timer : public QObject {
   std::unique_ptr<TickSource> source_;
   bool enabled_ = true;
   int interval_ = 0;
-};
-
-// Holds the ticks of all timers for as long as it lives, for example behind a message box.
-class TickHold {
- public:
-  TickHold();
-  ~TickHold();
-  TickHold(const TickHold&) = delete;
-  TickHold& operator=(const TickHold&) = delete;
 };
 
 }  // namespace lensbench

@@ -1,13 +1,13 @@
 #include "optics/poreiaaktinon/CardinalPoints.h"
 
 #include "canvas/Variant.h"
-#include "optics/poreiaaktinon/SurfaceSearch.h"
+#include "optics/poreiaaktinon/Palette.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
 
 constexpr double planeHalfHeight = 200.0;
-constexpr double raysEnd = 500.0;  // abscissa at which the constructed rays end
+constexpr double raysEnd = 500.0;  // how far out on the axis the constructed rays end
 
 double thickness(const Fakos& fakos) { return (fakos.R1 + fakos.xc1) - (fakos.xc2 - fakos.R2); }
 
@@ -18,6 +18,12 @@ Variant power(const Fakos& fakos, const Variant& n) {
   const Variant P = (n - 1) / R1 + (n - 1) / R2;
   const Variant Q = (n - 1) * (n - 1) * thickness(fakos) / n;
   return P - Q / (R2 * R1);
+}
+
+// The points in the order in which light meets them.
+CardinalPoints inOrder(const CardinalPoints& p, Travel travel) {
+  if (travel == Travel::Right) return p;
+  return {p.d, p.f, p.H2, p.H1, p.N2, p.N1, p.F2, p.F1};
 }
 
 }  // namespace
@@ -36,9 +42,13 @@ bool hasCardinalPoints(const Fakos& fakos, double n) {
   return hasLens(fakos) && n != 0.0 && n != 1.0 && power(fakos, n) != 0;
 }
 
-bool canConstruct(const CardinalPoints& points, Point source) {
-  return source.y != 0.0 && source.x != points.F1 && source.x != points.N1 &&
-         points.F2 != points.H2;
+Travel travelFrom(Point source, const Fakos& fakos) {
+  return source.x > rightVertex(fakos) ? Travel::Left : Travel::Right;
+}
+
+bool canConstruct(const CardinalPoints& points, Point source, Travel travel) {
+  const CardinalPoints p = inOrder(points, travel);
+  return source.y != 0.0 && source.x != p.F1 && source.x != p.N1 && p.F2 != p.H2;
 }
 
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points) {
@@ -48,40 +58,41 @@ void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points) {
   canvas.Line(points.H2, -planeHalfHeight, points.H2, planeHalfHeight);
   canvas.DrawStyle(DrawStyle::Solid);
 
-  canvas.DrawWidth(15);
-  canvas.PSet(points.F1, 0.0, RGB(255, 0, 0));
-  canvas.PSet(points.F2, 0.0, RGB(255, 0, 0));
-  canvas.PSet(points.N1, 0.0, RGB(5, 250, 0));
-  canvas.PSet(points.N2, 0.0, RGB(5, 250, 0));
+  canvas.DrawWidth(palette::cardinalWidth);
+  canvas.PSet(points.F1, 0.0, palette::focus);
+  canvas.PSet(points.F2, 0.0, palette::focus);
+  canvas.PSet(points.N1, 0.0, palette::node);
+  canvas.PSet(points.N2, 0.0, palette::node);
   canvas.DrawWidth(1);
 }
 
-void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source) {
-  constexpr Rgb colour = RGB(0, 255, 255);
+void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source, Travel travel) {
+  const CardinalPoints p = inOrder(points, travel);
+  const double end = static_cast<double>(travel) * raysEnd;
   const Variant xS = source.x;
   const Variant yS = source.y;
   const auto line = [&](const Variant& x1, const Variant& y1, const Variant& x2,
                         const Variant& y2) {
-    canvas.Line(x1.value(), y1.value(), x2.value(), y2.value(), colour);
+    canvas.Line(x1.value(), y1.value(), x2.value(), y2.value(), palette::construction);
   };
-  canvas.DrawWidth(2);
+  canvas.DrawWidth(palette::constructionWidth);
 
-  const Variant s1 = -yS / (points.F1 - xS);
-  const Variant y1 = yS + (points.H1 - xS) * s1;
-  line(xS, yS, points.H2, yS);
-  line(xS, yS, points.H1, y1);
-  line(points.H1, y1, raysEnd, y1);
+  const Variant s1 = -yS / (p.F1 - xS);
+  const Variant y1 = yS + (p.H1 - xS) * s1;
+  line(xS, yS, p.H2, yS);
+  line(xS, yS, p.H1, y1);
+  line(p.H1, y1, end, y1);
 
-  const Variant s2 = -yS / Variant(points.F2 - points.H2);
-  line(points.H2, yS, raysEnd, yS + (raysEnd - points.H2) * s2);
+  const Variant s2 = -yS / Variant(p.F2 - p.H2);
+  line(p.H2, yS, end, yS + (end - p.H2) * s2);
 
-  const Variant s3 = -yS / (points.N1 - xS);
-  line(xS, yS, points.N1, 0);
-  line(points.N2, 0, raysEnd, (raysEnd - points.N2) * s3);
+  const Variant s3 = -yS / (p.N1 - xS);
+  line(xS, yS, p.N1, 0);
+  line(p.N2, 0, end, (end - p.N2) * s3);
 
-  const Variant x = points.H2 + (y1 - yS) / s2;
-  canvas.DrawWidth(15);
-  canvas.PSet(x.value(), y1.value(), colour);
+  const Variant x = p.H2 + (y1 - yS) / s2;
+  canvas.DrawWidth(palette::cardinalWidth);
+  canvas.PSet(x.value(), y1.value(), palette::construction);
   canvas.DrawWidth(1);
 }
 
@@ -91,6 +102,7 @@ void drawCardinalLabels(Canvas& canvas, const CardinalPoints& points) {
     canvas.CurrentY(y);
     canvas.Print(text);
   };
+  canvas.FontName("Arial");
   canvas.FontSize(13.0);
   label(points.H1, 150.0, "H1");
   label(points.H2, 150.0, "H2");
@@ -101,12 +113,13 @@ void drawCardinalLabels(Canvas& canvas, const CardinalPoints& points) {
   canvas.FontSize(10.0);
 }
 
-void xaraktiristikasimeia() {
-  Workbench& bench = workbench();
-  const CardinalPoints points = cardinalPoints(bench.fakos(), bench.deiktisdiathlasis());
-  drawCardinalMarks(bench.canvas(), points);
-  drawConstruction(bench.canvas(), points, bench.pigi());
-  drawCardinalLabels(bench.canvas(), points);
+void drawCardinalPoints(Canvas& canvas, const Fakos& fakos, double n, Point source) {
+  if (!hasCardinalPoints(fakos, n)) return;
+  const CardinalPoints points = cardinalPoints(fakos, n);
+  const Travel travel = travelFrom(source, fakos);
+  drawCardinalMarks(canvas, points);
+  if (canConstruct(points, source, travel)) drawConstruction(canvas, points, source, travel);
+  drawCardinalLabels(canvas, points);
 }
 
 }  // namespace lensbench::poreiaaktinon

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "canvas/Canvas.h"
-#include "optics/poreiaaktinon/Workbench.h"
+#include "optics/light/Face.h"
+#include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::poreiaaktinon {
 
@@ -18,26 +19,32 @@ struct CardinalPoints {
   double F2 = 0.0;
 };
 
-// The thick-lens formulas; each principal point is placed with the radius of its own face. A radius
-// or index of 0, and a lens without power, are Division by zero (11).
+// The thick-lens formulas. A radius or index of 0, and a lens without power, are Division by zero
+// (11). Kept on purpose: each principal point is placed with the radius of its own face, as
+// students meet the formulas in books; exact optics takes that of the other.
 CardinalPoints cardinalPoints(const Fakos& fakos, double n);
 
 // False without a lens, at n = 1, and where 1/f is 0: then there is nothing to mark.
 bool hasCardinalPoints(const Fakos& fakos, double n);
 
+// Leftwards the points of the two sides exchange their roles: F1 and F2, H1 and H2, N1 and N2.
+using light::Travel;
+// From a source to the right of the lens's right vertex light goes to the left.
+Travel travelFrom(Point source, const Fakos& fakos);
+
 // False where the construction would divide by zero: the source on the axis, or straight above or
-// below F1 or N1.
-bool canConstruct(const CardinalPoints& points, Point source);
+// below the focal or the nodal point on the side where light comes from.
+bool canConstruct(const CardinalPoints& points, Point source, Travel travel);
 
 // The principal planes, dotted, and the focal and nodal points as dots.
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points);
 // The rays from the source through F1, parallel to the axis, and through the nodal points, and the
 // image point where they meet. Division by zero (11) where canConstruct is false.
-void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source);
+void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source, Travel travel);
 void drawCardinalLabels(Canvas& canvas, const CardinalPoints& points);
 
-// xaraktiristikasimeia: marks, construction for the light source, and labels of the workbench's
-// lens, on the workbench. Tests nothing.
-void xaraktiristikasimeia();
+// All of it, without the construction where that has no answer; nothing where the lens has no
+// cardinal points.
+void drawCardinalPoints(Canvas& canvas, const Fakos& fakos, double n, Point source);
 
 }  // namespace lensbench::poreiaaktinon

@@ -1,27 +1,17 @@
 #include "optics/poreiaaktinon/Faces.h"
 
 #include <cmath>
-#include <cstdint>
-#include <limits>
 
-#include "optics/poreiaaktinon/Intersection.h"
-#include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/SurfaceSearch.h"
+#include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Palette.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
 
-void drawArc(double centre, double radius, double start, double end, Rgb colour) {
-  Canvas& canvas = workbench().canvas();
-  canvas.DrawWidth(2);
+void drawArc(Canvas& canvas, double centre, double radius, Rgb colour, double start, double end) {
+  canvas.DrawWidth(palette::faceWidth);
   canvas.Circle(centre, 0.0, radius, colour, start, end);
   canvas.DrawWidth(1);
-}
-
-Rgb colourOf(const Variant& xroma) {
-  constexpr double largest = std::numeric_limits<std::uint32_t>::max();
-  if (xroma < 0 || xroma > largest) throwOverflow();
-  return {static_cast<std::uint32_t>(xroma.value())};
 }
 
 }  // namespace
@@ -36,17 +26,22 @@ std::optional<FaceArcs> faceArcs(const Fakos& fakos) {
   return FaceArcs{whole ? 0.0 : 2.0 * pi - right, whole ? 2.0 * pi : right, pi - left, pi + left};
 }
 
-void sxediasitoxou1(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& /*X2*/, const Variant& /*Y2*/) {
-  const auto arcs = faceArcs({xc1.value(), R1.value(), xc2.value(), R2.value()});
-  if (arcs) drawArc(xc1.value(), R1.value(), arcs->rightStart, arcs->rightEnd, black);
+void drawRightFace(Canvas& canvas, const Fakos& fakos, Rgb colour) {
+  const auto arcs = faceArcs(fakos);
+  if (arcs) drawArc(canvas, fakos.xc1, fakos.R1, colour, arcs->rightStart, arcs->rightEnd);
 }
 
-void sxediasitoxou2(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& /*X2*/, const Variant& /*Y2*/, const Variant& xroma) {
-  const auto arcs = faceArcs({xc1.value(), R1.value(), xc2.value(), R2.value()});
-  if (!arcs) return;
-  drawArc(xc2.value(), R2.value(), arcs->leftStart, arcs->leftEnd, colourOf(xroma));
+void drawLeftFace(Canvas& canvas, const Fakos& fakos, Rgb colour) {
+  const auto arcs = faceArcs(fakos);
+  if (arcs) drawArc(canvas, fakos.xc2, fakos.R2, colour, arcs->leftStart, arcs->leftEnd);
+}
+
+std::vector<CircleArc> faceOutline(const Fakos& fakos) {
+  const auto arcs = faceArcs(fakos);
+  if (!arcs) return {};
+  const double rightStart = arcs->rightStart - (arcs->rightStart > arcs->rightEnd ? 2.0 * pi : 0.0);
+  return {{{fakos.xc2, 0.0}, fakos.R2, arcs->leftStart, arcs->leftEnd},
+          {{fakos.xc1, 0.0}, fakos.R1, rightStart, arcs->rightEnd}};
 }
 
 }  // namespace lensbench::poreiaaktinon

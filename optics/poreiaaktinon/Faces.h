@@ -2,9 +2,10 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
-#include "canvas/Variant.h"
-#include "optics/poreiaaktinon/Workbench.h"
+#include "canvas/Canvas.h"
+#include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::poreiaaktinon {
 
@@ -19,15 +20,11 @@ struct FaceArcs {
 // Nothing when there is no lens.
 std::optional<FaceArcs> faceArcs(const Fakos& fakos);
 
-// sxediasitoxou1: draws the right face, an arc of circle 1, on the workbench in black at width 2;
-// nothing when there is no lens. (X2, Y2) is the lower end of the upper blade: the blade stands
-// before the lens and hides nothing of it.
-void sxediasitoxou1(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& X2, const Variant& Y2);
+// A face at width 2, an arc of its circle; nothing when there is no lens.
+void drawRightFace(Canvas& canvas, const Fakos& fakos, Rgb colour);
+void drawLeftFace(Canvas& canvas, const Fakos& fakos, Rgb colour);
 
-// sxediasitoxou2: the left face likewise, an arc of circle 2; xroma is its colour as a number with
-// red in the lowest byte, 0 for black; below 0 or beyond 32 bits it is Overflow (6).
-void sxediasitoxou2(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& X2, const Variant& Y2, const Variant& xroma);
+// Both faces, the left one first, as one outline of the glass; empty when there is no lens.
+std::vector<CircleArc> faceOutline(const Fakos& fakos);
 
 }  // namespace lensbench::poreiaaktinon

@@ -1,14 +1,6 @@
 #include "optics/poreiaaktinon/Geometry.h"
 
-#include "optics/poreiaaktinon/Numbers.h"
-
 namespace lensbench::poreiaaktinon {
-
-double apostasi(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2) {
-  const Variant dx = x1 - x2;
-  const Variant dy = y1 - y2;
-  return Sqr(dx * dx + dy * dy).value();
-}
 
 Variant toxoimitonou(const Variant& s) {
   if (s > 1) return {};
@@ -24,16 +16,27 @@ Variant estiakiapostasi(const Variant& R1, const Variant& R2, const Variant& n) 
   return 1 / D;
 }
 
-SinglePair kathetos(const Variant& px, const Variant& py, const Variant& cx, const Variant& cy,
-                    const Variant& r) {
-  return {toSingle(((px - cx) / r).value()), toSingle(((py - cy) / r).value())};
+SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Variant& r2) {
+  const Variant dd = d * d;
+  const Variant rr1 = r1 * r1;
+  const Variant rr2 = r2 * r2;
+  const Variant D = -(dd * dd) + 2 * dd * (rr1 + rr2) - rr2 * rr2 - rr1 * rr1 + 2 * rr1 * rr2;
+  if (D < 0) return {};
+  const double x = ((dd + rr1 - rr2) / (2 * d)).value();
+  const double y = (Sqr(D) / (2 * d)).value();
+  return {x, y, x, -y, boolean(true)};
 }
 
-Variant prosimo(const Variant& v) { return Sgn(v); }
-
-Variant gonia(const Variant& ax, const Variant& ay, const Variant& bx, const Variant& by) {
-  const Variant lengths = Sqr(ax * ax + ay * ay) * Sqr(bx * bx + by * by);
-  return toxoimitonou((ax * bx + ay * by) / lengths);
+SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& ra,
+                            const Variant& rb) {
+  if (a == b) return {};
+  const Variant d = b - a;
+  const Variant h = (d + (ra * ra - rb * rb) / d) * 0.5;
+  const Variant kk = ra * ra - h * h;
+  if (kk < 0) return {};
+  const double x = (a + h).value();
+  const double k = Sqr(kk).value();
+  return {x, k, x, -k, boolean(true)};
 }
 
 }  // namespace lensbench::poreiaaktinon

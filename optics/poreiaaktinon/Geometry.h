@@ -1,21 +1,15 @@
-// Plane geometry on which the spherical lenses rest: distance, angles, normals, focal length.
+// Plane geometry that the pictures of spherical lenses rest on: where two circles cross, arc sines
+// and the focal length.
 //
-// Lengths are in user units, angles in radians. No routine raises an error of its own; a division
-// by zero that a routine does not test is Division by zero (11).
+// Given routines that the pictures use; those that no picture needs are in Named.h. Lengths are in
+// user units, angles in radians. No routine raises an error of its own; a division by zero that a
+// routine does not test is Division by zero (11).
 #pragma once
 
 #include "canvas/Variant.h"
+#include "optics/poreiaaktinon/Numbers.h"
 
 namespace lensbench::poreiaaktinon {
-
-// Two Singles: the parts of a vector along x and y.
-struct SinglePair {
-  float x = 0.0f;
-  float y = 0.0f;
-};
-
-// apostasi: distance of the points (x1, y1) and (x2, y2).
-double apostasi(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2);
 
 // toxoimitonou: arc sine of s in radians, from the arc tangent; Empty where s is outside [-1, 1].
 Variant toxoimitonou(const Variant& s);
@@ -24,15 +18,24 @@ Variant toxoimitonou(const Variant& s);
 // 1 / ((1/R1 + 1/R2)(n - 1)), radii as positive magnitudes; Empty when it is infinite.
 Variant estiakiapostasi(const Variant& R1, const Variant& R2, const Variant& n);
 
-// kathetos: outward normal at (px, py) of the circle (cx, cy), r; of length 1 on the circle.
-SinglePair kathetos(const Variant& px, const Variant& py, const Variant& cx, const Variant& cy,
-                    const Variant& r);
+// SimeiaTomis: two points of intersection. found is true only when both are valid; look at it
+// first.
+struct SimeiaTomis {
+  double x1 = 0.0;
+  double y1 = 0.0;
+  double x2 = 0.0;
+  double y2 = 0.0;
+  Boolean found = 0;
+};
 
-// prosimo: sign of v, 1, -1 or 0.
-Variant prosimo(const Variant& v);
+// tomikyklonapostasis: the circle of radius r1 at the origin with that of radius r2 at (d, 0),
+// upper point first. Tangent circles count as found. d = 0 is Division by zero (11) unless the
+// radii make the circles miss.
+SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Variant& r2);
 
-// gonia: pi/2 less the angle between two vectors, in radians; where b is the tangent of a surface,
-// the signed angle of a to the surface normal.
-Variant gonia(const Variant& ax, const Variant& ay, const Variant& bx, const Variant& by);
+// tomikyklonaxona: two circles with centres (a, 0) and (b, 0) and radii ra and rb, upper point
+// first. Tangent circles count as found, concentric ones do not.
+SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& ra,
+                            const Variant& rb);
 
 }  // namespace lensbench::poreiaaktinon

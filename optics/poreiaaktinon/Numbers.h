@@ -15,8 +15,9 @@ constexpr Boolean boolean(bool truth) noexcept { return truth ? Boolean{-1} : Bo
 
 inline const double pi = 4.0 * std::atan(1.0);
 
-// A number rounded to Single; one too large for it is Overflow (6).
-inline float toSingle(double value) {
+// A number rounded to Single; one too large for it is Overflow (6). Not inlined: GCC 12 drops the
+// rounding of two numbers that it finds side by side on their way back to double.
+[[gnu::noinline]] inline float toSingle(double value) {
   if (!(std::fabs(value) <= std::numeric_limits<float>::max())) throwOverflow();
   return static_cast<float>(value);
 }

@@ -1,7 +1,6 @@
 #include "optics/protosfakos/Outline.h"
 
 #include <cmath>
-#include <variant>
 
 #include "optics/protosfakos/Hyperbola.h"
 
@@ -13,13 +12,12 @@ constexpr Rgb faceColour = RGB(255, 0, 0);
 // Steps of a/50 from the vertex to the rim at 4a.
 constexpr int outlineSteps = 150;
 
-void drawFace(Canvas& canvas, const HyperbolicFace& face) {
-  const double a = face.a;
-  const auto drawnX = [&](double x) { return face.mirrored ? 8.0 * a - x : x; };
-  Point previous;
+void drawFace(Canvas& canvas, double a, double b, bool mirrored) {
+  const auto drawnX = [&](double x) { return mirrored ? 8.0 * a - x : x; };
+  Point previous;  // Kept on purpose: the outline begins with a stroke from the origin.
   for (int i = 0; i <= outlineSteps; ++i) {
     const double x = a + i * a / 50.0;
-    const Point next{x, face.b * std::sqrt((x / a) * (x / a) - 1.0)};
+    const Point next{x, b * std::sqrt((x / a) * (x / a) - 1.0)};
     canvas.Line(drawnX(next.x), next.y, drawnX(previous.x), previous.y, faceColour);
     canvas.Line(drawnX(next.x), -next.y, drawnX(previous.x), -previous.y, faceColour);
     previous = next;
@@ -28,22 +26,19 @@ void drawFace(Canvas& canvas, const HyperbolicFace& face) {
 
 }  // namespace
 
-void drawOutline(Canvas& canvas, const Glass& glass) {
+void drawOutline(Canvas& canvas, double a, double b, bool amfikyrtos) {
   canvas.DrawWidth(3);
-  for (const Face& face : glass.faces) {
-    if (const auto* hyperbola = std::get_if<HyperbolicFace>(&face)) {
-      drawFace(canvas, *hyperbola);
-    } else {
-      const double rim = rimHalfHeight(glass.b);
-      canvas.Line(glass.rimX(), rim, glass.rimX(), -rim, faceColour);
-    }
+  drawFace(canvas, a, b, false);
+  if (amfikyrtos) {
+    drawFace(canvas, a, b, true);
+  } else {
+    const double rim = rimHalfHeight(b);
+    canvas.Line(4.0 * a, rim, 4.0 * a, -rim, faceColour);
   }
   canvas.DrawWidth(1);
 }
 
-void drawIdealBundle(Canvas& canvas, const Glass& glass) {
-  const double a = glass.a;
-  const double b = glass.b;
+void drawIdealBundle(Canvas& canvas, double a, double b) {
   if (b == 0.0) return;
   const double c = std::hypot(a, b);
   const double spacing = rimHalfHeight(b) / 5.0;
@@ -54,7 +49,5 @@ void drawIdealBundle(Canvas& canvas, const Glass& glass) {
     canvas.Line(x, y, -c, 0.0);
   }
 }
-
-void drawMark(Canvas& canvas, Point p) { canvas.Circle(p.x, p.y, 1.0); }
 
 }  // namespace lensbench::protosfakos

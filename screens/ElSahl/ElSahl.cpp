@@ -1,39 +1,53 @@
 #include "screens/ElSahl/ElSahl.h"
 
-#include <QGuiApplication>
-#include <QScreen>
+#include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "canvas/qt/Dialogs.h"
-#include "optics/protosfakos/Fronts.h"
-#include "optics/protosfakos/SahlState.h"
-#include "optics/protosfakos/Scenes.h"
+#include "optics/protosfakos/Hyperbola.h"
 #include "screens/Answers.h"
+#include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
+#include "screens/Moves.h"
+#include "screens/Shared.h"
 
 namespace lensbench {
 
-using protosfakos::Diafragma;
-using protosfakos::HyperbolaAxes;
-using protosfakos::SahlState;
-using protosfakos::state;
+using light::Diafragma;
+using protosfakos::Asked;
+using protosfakos::Scene;
 
 namespace {
 
 constexpr int arrow = 1;
 constexpr int cross = 2;
-constexpr double scaleLeft = -120.0;
-constexpr double scaleTop = 120.0;
-constexpr double scaleRight = 150.0;
-constexpr double scaleBottom = -120.0;
 constexpr double strokeX = 130.0;
 constexpr double halfOpening = 10.0;
 constexpr double outerEnd = 200.0;
 
 const FormDesign design{"ElSahl", "Φακός Ιμπν Σαχλ 2 υπεροβλές", 165, 855, 15240, 3525, white};
 
+constexpr double scaleLeft = -120.0;
+constexpr double scaleTop = 120.0;
+constexpr double scaleRight = 150.0;
+constexpr double scaleBottom = -120.0;
+
+// The source of the fan that was drawn last.
+std::optional<Point> sourceOf(const protosfakos::Shown& shown) {
+  std::optional<Point> source;
+  for (const protosfakos::Layer& layer : shown.layers) {
+    if (const auto* scene = std::get_if<Scene>(&layer)) {
+      const auto* fan = std::get_if<protosfakos::Fan>(&scene->asked.rays);
+      source = fan == nullptr ? std::nullopt : std::optional(fan->source);
+    }
+  }
+  return source;
+}
+
 }  // namespace
 
-ElSahl::ElSahl(Moves& moves) : Form(design), moves_(moves), controls_(*this), view_(*this) {
+ElSahl::ElSahl(const Context& context) : Form(design), context_(context), controls_(*this) {
   setAccessibleName("Υπερβολικός φακός · Hyperbolic lens");
   drawingArea()->setAccessibleName(
       QStringLiteral("Υπερβολικός φακός, πάτησε για να βάλεις την πηγή · "
@@ -49,128 +63,136 @@ ElSahl::ElSahl(Moves& moves) : Form(design), moves_(moves), controls_(*this), vi
 
 void ElSahl::connectHandlers() {
   SahlControls& c = controls_;
-  on<Form>(*this, &Form::MouseDown, *this, &ElSahl::Form_MouseDown);
-  on<Form>(*this, &Form::MouseMove, *this, &ElSahl::Form_MouseMove);
-  on<Form>(*this, &Form::MouseUp, *this, &ElSahl::Form_MouseUp);
-  on<Form>(*this, &Form::Resized, *this, &ElSahl::resized);
-  on<Form>(*this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
-  on(c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
-  on(c.RAYSANDWAVES, &OptionButton::Click, *this, &ElSahl::RAYSANDWAVES_Click);
-  // The picture stands until the next drawing, which reads the options anew.
-  for (OptionButton* option : {&c.kymataYESNO, &c.RAYSANDWAVES, &c.onlyrays}) {
-    on(*option, &OptionButton::Click, *this, &ElSahl::touched);
-  }
-  on(c.kymatikosahl, &MenuEntry::Click, *this, &ElSahl::kymatikosahl_Click);
-  on(c.parallilidesmifotos, &MenuEntry::Click, *this, &ElSahl::parallilidesmifotos_Click);
-  on(c.BACKKELMO, &MenuEntry::Click, *this, &ElSahl::BACKKELMO_Click);
-  on(c.TELOS, &MenuEntry::Click, *this, &ElSahl::TELOS_Click);
+  Actions& actions = context_.actions;
+  on<Form>(actions, *this, &Form::MouseDown, *this, &ElSahl::Form_MouseDown);
+  on<Form>(actions, *this, &Form::MouseMove, *this, &ElSahl::Form_MouseMove);
+  on<Form>(actions, *this, &Form::MouseUp, *this, &ElSahl::Form_MouseUp);
+  on<Form>(actions, *this, &Form::DragEnded, *this, &ElSahl::dragEnded);
+  on<Form>(actions, *this, &Form::Resized, *this, &ElSahl::resized);
+  on<Form>(actions, *this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
+  on(actions, c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
+  on(actions, c.RAYSANDWAVES, &OptionButton::Click, *this, &ElSahl::RAYSANDWAVES_Click);
+  on(actions, c.kymatikosahl, &MenuEntry::Click, *this, &ElSahl::kymatikosahl_Click);
+  on(actions, c.parallilidesmifotos, &MenuEntry::Click, *this, &ElSahl::parallilidesmifotos_Click);
+  on(actions, c.BACKKELMO, &MenuEntry::Click, *this, &ElSahl::BACKKELMO_Click);
+  on(actions, c.TELOS, &MenuEntry::Click, *this, &ElSahl::TELOS_Click);
 }
 
 void ElSahl::Form_Load() { strokesAt(strokeX); }
 
 void ElSahl::prepare() {
-  touched();
-  // A screen that was left by the keyboard during a drag saw no release.
-  syromenigrammi1 = false;
-  syromenigrammi2 = false;
   AutoRedraw(true);
   Top(0);
   Left(0);
-  Height(QGuiApplication::primaryScreen()->geometry().height() * twipsPerPixel / 1.5);
+  Height(squareSide());
   Width(Height());
+  side_ = Height();
   Show();
-  // Only a window that is shown has the client area that the scale is for.
-  setScale();
+  resized();
   strokesAt(strokeX);
-  openingIndex_ = state().deiktisSahl;
 }
 
 void ElSahl::resized() {
-  // The window manager settles the size of a new window only after it is shown; until something is
-  // done by hand the scene fits itself to every size. Later the picture stays, and so does one of
-  // an index that the lens menu has changed since.
-  if (!openingIndex_ || *openingIndex_ != state().deiktisSahl || state().pigiX.isEmpty()) return;
-  setScale();
-  strokesAt(strokeX);
-  redrawFan();
+  controls_.placeOptions(canvas().size().width());
+  const Diafragma before = diafragma();
+  fitScale();
+  placeEdges(before);
+}
+
+void ElSahl::fitScale() {
+  const QSizeF now = canvas().size();
+  if (Width() == side_ && Height() == side_) opening_ = now;
+  if (now == opening_) return canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom);
+  // The box grows as the window does, in the direction in which that grows less.
+  const double growth = std::min(now.width() / opening_.width(), now.height() / opening_.height());
+  const double width = (scaleRight - scaleLeft) * now.width() / opening_.width() / growth;
+  const double height = (scaleTop - scaleBottom) * now.height() / opening_.height() / growth;
+  const double middleX = (scaleLeft + scaleRight) / 2.0;
+  const double middleY = (scaleTop + scaleBottom) / 2.0;
+  canvas().Scale(middleX - width / 2.0, middleY + height / 2.0, middleX + width / 2.0,
+                 middleY - height / 2.0);
+}
+
+void ElSahl::clear() {
+  easel_.show({});
+  followWithMarks();
 }
 
 void ElSahl::strokesAt(double x) { placeEdges({x, halfOpening, -halfOpening}); }
 
 void ElSahl::placeEdges(const Diafragma& diafragma) {
-  controls_.Line1.between({diafragma.X, outerEnd}, {diafragma.X, diafragma.upper});
-  controls_.Line2.between({diafragma.X, -outerEnd}, {diafragma.X, diafragma.lower});
+  controls_.Line1.between({diafragma.X, outerEnd}, {diafragma.X, diafragma.yA});
+  controls_.Line2.between({diafragma.X, -outerEnd}, {diafragma.X, diafragma.yB});
+  followWithMarks();
 }
 
-void ElSahl::setScale() { canvas().Scale(scaleLeft, scaleTop, scaleRight, scaleBottom); }
+Diafragma ElSahl::diafragma() const {
+  return {controls_.Line1.X1(), controls_.Line1.Y2(), controls_.Line2.Y2()};
+}
 
-Point ElSahl::inLensScale(Point p) {
-  const Canvas& surface = canvas();
-  if (surface.ScaleLeft() == scaleLeft && surface.ScaleTop() == scaleTop &&
-      surface.ScaleWidth() == scaleRight - scaleLeft &&
-      surface.ScaleHeight() == scaleBottom - scaleTop) {
-    return p;
-  }
-  const UserMapping before = canvas().mapping();
-  setScale();
-  return canvas().mapping().toUser(before.toPixel(p));
+void ElSahl::followWithMarks() {
+  // An edge is in sight as long as the part of it is that lies nearest to the axis.
+  const Reach area = reach();
+  const Diafragma d = diafragma();
+  controls_.mark1.follow({d.X, std::max(d.yA, area.bottom)});
+  controls_.mark2.follow({d.X, std::min(d.yB, area.top)});
+  const auto source = sourceOf(easel_.shown());
+  controls_.sourceMark.Visible(false);
+  if (source) controls_.sourceMark.follow(*source);
 }
 
 void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
-  touched();
-  state().onlyWavesAsked = false;
-  const Diafragma beforePress = view_.diafragma();
-  const Point p = inLensScale({X, Y});
-  atPress_ = view_.diafragma();
-  syromenigrammi1 = liesOn(p, controls_.Line1);
-  syromenigrammi2 = !syromenigrammi1 && liesOn(p, controls_.Line2);
-  if (syromenigrammi1 || syromenigrammi2) return;
-  const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
-  if (!lens) return;
-  // In a resized window the scene gets another scale here; the diaphragm goes with it.
-  placeEdges(beforePress);
-  canvas().Cls();
+  context_.shared.onlyWavesAsked = false;
+  const Point p{X, Y};
+  atPress_ = diafragma();
+  syromenigrammi1 = controls_.onUpperEdge(p);
+  syromenigrammi2 = !syromenigrammi1 && controls_.onLowerEdge(p);
+  if (dragging() || !hasLensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"))) return;
   hintUsed();
-  state().pigiX = p.x;
-  state().pigiY = p.y;
-  drawFan(*lens);
+  context_.shared.pigiX = X;
+  context_.shared.pigiY = Y;
+  drawFan();
 }
 
 void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   const Point p{X, Y};
-  if (syromenigrammi1 || syromenigrammi2) dragTo(p);
-  const bool onEdge = syromenigrammi1 || liesOn(p, controls_.Line1) || liesOn(p, controls_.Line2);
+  if (dragging()) dragTo(p);
+  // Kept on purpose: of the two drags only that of the upper edge holds the cross.
+  const bool onEdge = syromenigrammi1 || controls_.onUpperEdge(p) || controls_.onLowerEdge(p);
   MousePointer(onEdge ? cross : arrow);
 }
 
 void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
-  if (Button != leftButton) return;
-  const Point p = inLensScale({X, Y});
-  if (!syromenigrammi1 && !syromenigrammi2) return;
-  dragTo(p);
+  if (Button != leftButton || !dragging()) return;
+  dragTo({X, Y});
   syromenigrammi1 = false;
   syromenigrammi2 = false;
   hintUsed();
-  redrawFan();
+  if (hasLens()) drawFan();
 }
 
 void ElSahl::dragTo(Point p) {
   placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, reach()));
 }
 
+void ElSahl::dragEnded() {
+  if (dragging()) placeEdges(atPress_);
+  syromenigrammi1 = false;
+  syromenigrammi2 = false;
+}
+
 Reach ElSahl::reach() const {
   const RasterCanvas& surface = canvas();
-  const double belowOptions = controls_.onlyrays.geometry().bottom() + 1.0;
   return {surface.ScaleLeft(), surface.ScaleLeft() + surface.ScaleWidth(),
           surface.ScaleTop() + surface.ScaleHeight(),
-          surface.mapping().toUser({0.0, belowOptions}).y};
+          surface.mapping().toUser({0.0, controls_.optionsBottom()}).y};
 }
 
 void ElSahl::hintUsed() { drawingArea()->setToolTip({}); }
 
 void ElSahl::kymataYESNO_Click() {
-  state().onlyWavesAsked = true;
+  context_.shared.onlyWavesAsked = true;
   controls_.kymataYESNO.Value(true);
   controls_.RAYSANDWAVES.Value(false);
 }
@@ -181,66 +203,70 @@ void ElSahl::RAYSANDWAVES_Click() {
 }
 
 void ElSahl::kymatikosahl_Click() {
-  touched();
-  const auto lens = lensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"));
-  if (!lens) return;
-  drawFan(*lens);
-  const int rays = static_cast<int>(state().plithosaktinon.value());
-  for (int k = 1; k < rays; ++k) {
-    if (state().desmiMode) {
-      protosfakos::kymatadesmis({}, {}, k);
-    } else {
-      protosfakos::kymatapigis(k);
-    }
-  }
-  protosfakos::drawFronts(canvas(), {});
+  if (!hasLensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"))) return;
+  const Scene scene = drawOver(askedFan());
+  push(protosfakos::FrontsAgain{scene, context_.shared.desmiMode});
 }
 
 void ElSahl::parallilidesmifotos_Click() {
-  const auto answer = dialogs().InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
-                                         QStringLiteral("Angle in °"), QStringLiteral("0"));
-  if (!answer) return;
-  touched();
-  const auto lens = lensOr(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"));
-  if (!lens) return;
+  const auto answer =
+      context_.dialogs.InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
+                                QStringLiteral("Angle in °"), QStringLiteral("0"));
+  if (!answer || !hasLensOr(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"))) return;
   const Variant pi = 4 * Atn(1);
   const Variant m = Tan(pi * (numberFromAnswer(*answer) / 180));
-  canvas().Cls();
-  if (state().amfikyrtosSahl) {
-    protosfakos::desmiamfikyrtou(lens->a, lens->b, m);
-  } else {
-    protosfakos::desmiepipedokyrtou(lens->a, lens->b, m);
-  }
+  clear();
+  drawOver(asked(protosfakos::Desmi{m.value()}));
 }
 
 void ElSahl::BACKKELMO_Click() {
-  touched();
-  canvas().Cls();
-  moves_.leaveIbnSahl();
+  clear();
+  context_.moves.leaveIbnSahl();
 }
 
-void ElSahl::TELOS_Click() { moves_.End(); }
+void ElSahl::TELOS_Click() { context_.moves.End(); }
 
-void ElSahl::drawFan(const HyperbolaAxes& lens) {
-  const SahlState& shared = state();
-  if (shared.amfikyrtosSahl) {
-    protosfakos::sxediasiamfikyrtou(lens.a, lens.b, shared.pigiX, shared.pigiY);
-  } else {
-    protosfakos::sxediasiepipedokyrtou(lens.a, lens.b, shared.pigiX, shared.pigiY);
-  }
+Asked ElSahl::asked(const protosfakos::Rays& rays) const {
+  return {.amfikyrtos = context_.shared.amfikyrtosSahl,
+          .deiktisSahl = context_.shared.deiktisSahl.value(),
+          .rays = rays,
+          .diafragma = diafragma(),
+          .onlyRays = controls_.onlyrays.Value(),
+          .onlyWaves = controls_.kymataYESNO.Value()};
 }
 
-void ElSahl::redrawFan() {
-  const auto lens = protosfakos::deriveLens(state().deiktisSahl);
-  if (!lens) return;
-  canvas().Cls();
-  drawFan(*lens);
+Asked ElSahl::askedFan() const {
+  const Point source{context_.shared.pigiX.value(), context_.shared.pigiY.value()};
+  return asked(protosfakos::Fan{source});
 }
 
-std::optional<HyperbolaAxes> ElSahl::lensOr(const QString& message) {
-  const auto lens = protosfakos::deriveLens(state().deiktisSahl);
-  if (!lens) dialogs().MsgBox(message);
-  return lens;
+void ElSahl::drawFan() {
+  clear();
+  drawOver(askedFan());
+}
+
+Scene ElSahl::drawOver(const Asked& asked) {
+  Scene scene = protosfakos::sceneOf(asked);
+  Caption(QString::fromStdString(protosfakos::captionOf(asked)));
+  push(scene);
+  if (scene.traced->arnhtiko) context_.dialogs.MsgBox(QStringLiteral("  ARNHTIKO"));
+  return scene;
+}
+
+void ElSahl::push(protosfakos::Layer layer) {
+  protosfakos::Shown next = easel_.shown();
+  protosfakos::add(next, std::move(layer));
+  easel_.show(std::move(next));
+  followWithMarks();
+}
+
+bool ElSahl::hasLens() const {
+  return protosfakos::deriveLens(context_.shared.deiktisSahl).has_value();
+}
+
+bool ElSahl::hasLensOr(const QString& message) {
+  if (!hasLens()) context_.dialogs.MsgBox(message);
+  return hasLens();
 }
 
 }  // namespace lensbench

@@ -1,30 +1,33 @@
 // The Ibn Sahl screen: a hyperbolic lens, its source or bundle, its wavefronts and its diaphragm.
 #pragma once
 
-#include <optional>
-
 #include "canvas/qt/Form.h"
-#include "optics/protosfakos/Hyperbola.h"
+#include "optics/protosfakos/Picture.h"
+#include "screens/Context.h"
+#include "screens/Easel.h"
 #include "screens/ElSahl/Edges.h"
 #include "screens/ElSahl/SahlControls.h"
-#include "screens/ElSahl/SahlView.h"
-#include "screens/Moves.h"
 
 namespace lensbench {
 
 class ElSahl : public Form {
  public:
-  explicit ElSahl(Moves& moves);
+  explicit ElSahl(const Context& context);
 
   SahlControls& controls() { return controls_; }
-  protosfakos::SahlScreen& view() { return view_; }
+  const protosfakos::Shown& shown() const { return easel_.shown(); }
 
   // What the lens menu does to this screen before it draws: a square window at the upper-left
-  // corner of the display, two thirds of the display high, shown with the scale of the lenses and
-  // the edges of the diaphragm at x = 130.
+  // corner of the display, two thirds of the display high and no wider than it, shown with the
+  // scale of the lenses and the edges of the diaphragm at x = 130.
   void prepare();
+  // Clears and draws the fan of the shared source through the shared lens.
+  void drawFan();
   // Both edges of the diaphragm at this abscissa, open from -10 to 10, user units.
   void strokesAt(double x);
+  light::Diafragma diafragma() const;
+  // The fan of the shared source, as it would be drawn now.
+  protosfakos::Asked askedFan() const;
 
   // Handlers, named after control and event.
   void Form_Load();
@@ -43,30 +46,35 @@ class ElSahl : public Form {
 
  private:
   void connectHandlers();
-  void touched() { openingIndex_.reset(); }
+  // The box of the lenses whole in the middle of the drawing area, with the ratio of the units that
+  // the window opens with.
+  void fitScale();
   void resized();
-  void setScale();
-  // Sets the scale of the lenses where a resized window has another, and says where p, a point of
-  // that scale, now is. Nothing is rounded where the scale holds already.
-  Point inLensScale(Point p);
-  void placeEdges(const protosfakos::Diafragma& diafragma);
+  void clear();
+  // Marks at the edge of the drawing area for what stands beyond it.
+  void followWithMarks();
+  void placeEdges(const light::Diafragma& diafragma);
   Reach reach() const;
+  bool dragging() const { return syromenigrammi1 || syromenigrammi2; }
   void dragTo(Point p);
+  // The edges go back to where they were taken.
+  void dragEnded();
   // Takes the hint away, which would only cover the picture.
   void hintUsed();
-  // The fan from the stored source through the lens that is shown, over what is there.
-  void drawFan(const protosfakos::HyperbolaAxes& lens);
-  // The same on a cleared picture; for an index below 1 the picture stays as it is.
-  void redrawFan();
-  // The lens of the present index; for an index below 1 none, and the message is shown.
-  static std::optional<protosfakos::HyperbolaAxes> lensOr(const QString& message);
+  protosfakos::Asked asked(const protosfakos::Rays& rays) const;
+  // The scene, over what is there.
+  protosfakos::Scene drawOver(const protosfakos::Asked& asked);
+  void push(protosfakos::Layer layer);
+  bool hasLens() const;
+  // For an index below 1 false, and the message is shown.
+  bool hasLensOr(const QString& message);
 
-  Moves& moves_;
+  Context context_;
   SahlControls controls_;
-  SahlView view_;
-  protosfakos::Diafragma atPress_;  // as the diaphragm was when the mouse took an edge
-  // The index of refraction the screen was opened with, until something is done by hand.
-  std::optional<Variant> openingIndex_;
+  Easel<protosfakos::Shown> easel_{*this};
+  light::Diafragma atPress_;          // as the diaphragm was when the mouse took an edge
+  double side_ = 0.0;                 // of the window with its frame, as it opens, twips
+  QSizeF opening_ = canvas().size();  // of the drawing area then, logical pixels
 };
 
 }  // namespace lensbench

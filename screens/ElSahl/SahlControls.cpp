@@ -1,6 +1,7 @@
 #include "screens/ElSahl/SahlControls.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace lensbench {
 namespace {
@@ -8,25 +9,40 @@ namespace {
 constexpr Rgb edgeColour{0x00C00000};
 constexpr int edgeWidth = 3;  // pixels
 
+constexpr Place onlyWavesPlace{120, 0, 1455, 375};
+constexpr Place raysWavesPlace{1560, 0, 1335, 375};
+constexpr Place onlyRaysPlace{2880, 0, 1215, 375};
+
 }  // namespace
 
 SahlControls::SahlControls(Form& form)
-    : onlyrays(form, "onlyrays", {2880, 0, 1215, 375}),
-      RAYSANDWAVES(form, "RAYSANDWAVES", {1560, 0, 1335, 375}),
-      kymataYESNO(form, "kymataYESNO", {120, 0, 1455, 375}),
+    : onlyrays(form, "onlyrays", onlyRaysPlace),
+      RAYSANDWAVES(form, "RAYSANDWAVES", raysWavesPlace),
+      kymataYESNO(form, "kymataYESNO", onlyWavesPlace),
       Line2(form, "Line2", {1800, 1320, 1920, 2640}),
       Line1(form, "Line1", {360, 0, 360, 1200}),
+      mark2(form, "mark2", edgeColour),
+      mark1(form, "mark1", edgeColour),
+      sourceMark(form, "sourceMark", sourceColour),
       parallilidesmifotos(form, "parallilidesmifotos", "PARALLILI  DESMH"),
       TELOS(form, "TELOS", "END"),
       kymatikosahl(form, "kymatikosahl", "WAVES"),
       BACKKELMO(form, "BACKKELMO", "BACK TO MENU") {
   setTexts();
-  placeOptions();
+  placeOptions(form.drawingArea()->width());
+  QWidget::setTabOrder(&kymataYESNO, &RAYSANDWAVES);
+  QWidget::setTabOrder(&RAYSANDWAVES, &onlyrays);
   describeAll();
-  for (LineControl* edge : {&Line1, &Line2}) {
+  for (DiaphragmEdge* edge : {&Line1, &Line2}) {
     edge->BorderColor(edgeColour);
     edge->BorderWidth(edgeWidth);
   }
+}
+
+double SahlControls::optionsBottom() const {
+  return std::max({onlyrays.geometry().bottom(), RAYSANDWAVES.geometry().bottom(),
+                   kymataYESNO.geometry().bottom()}) +
+         1;
 }
 
 void SahlControls::setTexts() {
@@ -36,17 +52,24 @@ void SahlControls::setTexts() {
   RAYSANDWAVES.Value(true);
 }
 
-// One row from left to right; an option whose text needs more room pushes its neighbours on.
-void SahlControls::placeOptions() {
-  int free = 0;
-  QWidget* previous = nullptr;
-  for (QWidget* option : {static_cast<QWidget*>(&kymataYESNO), static_cast<QWidget*>(&RAYSANDWAVES),
-                          static_cast<QWidget*>(&onlyrays)}) {
-    const QSize needed = option->sizeHint().expandedTo(option->size());
-    option->setGeometry(std::max(option->x(), free), option->y(), needed.width(), needed.height());
-    free = option->x() + option->width();
-    if (previous != nullptr) QWidget::setTabOrder(previous, option);
-    previous = option;
+// In rows from left to right; an option whose text needs more room pushes its neighbours on, and
+// one that would be cut begins a new row.
+void SahlControls::placeOptions(int width) {
+  constexpr Place designed[] = {onlyWavesPlace, raysWavesPlace, onlyRaysPlace};
+  OptionButton* const options[] = {&kymataYESNO, &RAYSANDWAVES, &onlyrays};
+  const int left = inPixels(designed[0]).x();
+  int free = left;
+  int top = 0;
+  for (std::size_t i = 0; i < std::size(options); ++i) {
+    const QRect place = inPixels(designed[i]);
+    const QSize needed = options[i]->sizeHint().expandedTo(place.size());
+    int x = top == 0 ? std::max(place.x(), free) : free;
+    if (x > left && x + needed.width() > width) {
+      x = left;
+      top += place.height();
+    }
+    options[i]->setGeometry({{x, top}, needed});
+    free = x + needed.width();
   }
 }
 

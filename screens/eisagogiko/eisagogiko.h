@@ -2,14 +2,14 @@
 #pragma once
 
 #include "canvas/qt/Form.h"
-#include "screens/Moves.h"
+#include "screens/Context.h"
 #include "screens/eisagogiko/MenuControls.h"
 
 namespace lensbench {
 
 class eisagogiko : public Form {
  public:
-  explicit eisagogiko(Moves& moves);
+  explicit eisagogiko(const Context& context);
 
   MenuControls& controls() { return controls_; }
 
@@ -23,11 +23,11 @@ class eisagogiko : public Form {
  private:
   void connectHandlers();
   double index() const;
-  // Clears the Ibn Sahl screen and draws there one of the lenses with a fan from its first source;
-  // for an index below 1 a message, and nothing is drawn.
+  // Has the Ibn Sahl screen draw one of the lenses with a fan from its first source; for an index
+  // below 1 a message, and nothing is drawn.
   void openLens(bool biconvex);
 
-  Moves& moves_;
+  Context context_;
   MenuControls controls_;
 };
 

@@ -7,6 +7,7 @@ namespace {
 
 constexpr double markerTwips = 135.0;
 constexpr double sourceTwips = 75.0;
+constexpr Rgb bladeColour = RGB(100, 100, 0);
 
 // Controls get their places from the size of the window.
 constexpr Place arranged{};
@@ -16,7 +17,7 @@ constexpr Place ofDiameter(double twips) { return {0.0, 0.0, twips, twips}; }
 
 }  // namespace
 
-KelmoControls::KelmoControls(Form& form)
+KelmoControls::KelmoControls(Form& form, Clock& clock)
     : singleray(form, "singleray", "AKTINA RAY"),
       EPANALIPSI(form, "EPANALIPSI", "// BUNDLE  DESMH"),
       SAHLIC(form, "SAHLIC", "IBN SAHL"),
@@ -51,8 +52,11 @@ KelmoControls::KelmoControls(Form& form)
       Shape1(form, "Shape1", ofDiameter(markerTwips)),
       Shape2(form, "Shape2", ofDiameter(markerTwips)),
       draggedEdge(form, "draggedEdge", {}),
-      Timer1(form, "Timer1"),
-      Timer2(form, "Timer2") {
+      upperBladeMark(form, "upperBladeMark", bladeColour),
+      lowerBladeMark(form, "lowerBladeMark", bladeColour),
+      sourceMark(form, "sourceMark", sourceColour),
+      Timer1(form, "Timer1", clock),
+      Timer2(form, "Timer2", clock) {
   setRanges();
   setTexts();
   setShapes();
@@ -93,17 +97,14 @@ void KelmoControls::setTexts() {
 
 void KelmoControls::setShapes() {
   for (LineControl* blade : {&Line1, &Line2}) {
-    blade->BorderColor(RGB(100, 100, 0));
+    blade->BorderColor(bladeColour);
     blade->BorderWidth(4);
   }
-  pigi.BorderColor(RGB(255, 0, 0));
-  pigi.FillColor(RGB(255, 128, 0));
-  pigi.FillStyle(FillStyle::Solid);
-  for (Shape* marker : {&Shape1, &Shape2}) {
+  for (Shape* marker : {&pigi, &Shape1, &Shape2}) {
     marker->BorderColor(RGB(255, 0, 0));
-    marker->FillColor(RGB(255, 128, 0));
+    marker->FillColor(sourceColour);
     marker->FillStyle(FillStyle::Solid);
-    marker->Visible(false);
+    marker->Visible(marker == &pigi);
   }
   draggedEdge.BorderColor(RGB(255, 0, 0));
   draggedEdge.BorderStyle(BorderStyle::Dotted);

@@ -10,11 +10,12 @@
 #include "canvas/qt/Shape.h"
 #include "canvas/qt/TextBox.h"
 #include "canvas/qt/Timer.h"
+#include "screens/EdgeMark.h"
 
 namespace lensbench {
 
 struct KelmoControls {
-  explicit KelmoControls(Form& form);
+  KelmoControls(Form& form, Clock& clock);
 
   // Puts every control at its place along the edges of a drawing area of this size, in pixels.
   void arrange(int width, int height);
@@ -55,8 +56,12 @@ struct KelmoControls {
   Shape Shape1;       // marker of the left centre while it is dragged
   Shape Shape2;       // marker of the right centre while it is dragged
   Shape draggedEdge;  // the circle whose edge is dragged
-  Timer Timer1;       // waves in time
-  Timer Timer2;       // plane waves
+  // Where blade ends and source stand when the drawing area does not show them.
+  EdgeMark upperBladeMark;
+  EdgeMark lowerBladeMark;
+  EdgeMark sourceMark;
+  Timer Timer1;  // waves in time
+  Timer Timer2;  // plane waves
 
  private:
   void setRanges();

@@ -1,32 +1,47 @@
 // The spherical-lenses workbench: lens parameters, source, diaphragm, rays, bundles and waves.
 #pragma once
 
-#include <functional>
+#include <optional>
 
 #include "canvas/Variant.h"
 #include "canvas/qt/Form.h"
-#include "screens/Moves.h"
+#include "optics/poreiaaktinon/Picture.h"
+#include "screens/Context.h"
+#include "screens/Easel.h"
 #include "screens/kelmo/Drag.h"
 #include "screens/kelmo/KelmoControls.h"
-#include "screens/kelmo/WaveAnimation.h"
-#include "screens/kelmo/WorkbenchView.h"
 
 namespace lensbench {
 
 class kelmo : public Form {
  public:
-  explicit kelmo(Moves& moves);
+  explicit kelmo(const Context& context);
 
   KelmoControls& controls() { return controls_; }
-  poreiaaktinon::Workbench& workbench() { return workbench_; }
-  const WaveAnimation& animation() const { return animation_; }
+  const poreiaaktinon::Shown& shown() const { return easel_.shown(); }
+  // The rays that carry the moving waves; a tick without them moves nothing.
+  const std::optional<poreiaaktinon::Sent>& set() const { return set_; }
 
-  // arxinizo: reads the scene's state from the controls and draws the lens scene over what is
-  // there.
+  // What the controls say; lengths in user units.
+  double R1() const { return controls_.aktina1.Value(); }         // radius of the left circle
+  double R2() const { return controls_.aktina2.Value(); }         // radius of the right circle
+  double xc1() const { return controls_.kentrokykloy2.Value(); }  // centre of the left circle
+  double xc2() const { return controls_.kentrokykloy.Value(); }   // centre of the right circle
+  double n() const { return controls_.deiktisdiathlasis.Value() / 100.0; }  // index of refraction
+  double vima() const;                                    // step between the rays of a fan, degrees
+  double xpigi() const { return controls_.pigi.Left(); }  // light source
+  double ypigi() const { return controls_.pigi.Top(); }
+  Point pigi() const { return {xpigi(), ypigi()}; }
+  poreiaaktinon::Fakos fakos() const { return {xc1(), R1(), xc2(), R2()}; }
+  poreiaaktinon::Diafragma diafragma() const;
+  poreiaaktinon::Bench bench() const { return {fakos(), n(), diafragma()}; }
+  poreiaaktinon::Provoli provoli() const;
+
+  // arxinizo: the lens scene as the controls say, over what is there.
   void arxinizo();
-  // drawBundle: clears, draws the scene and a bundle of parallel rays at an angle in radians.
+  // drawBundle: clears, then the scene and a bundle of parallel rays at an angle in radians.
   void drawBundle(const Variant& angle);
-  // drawWaveScene: clears and draws what stands under moving waves.
+  // drawWaveScene: clears, then what stands under moving waves.
   void drawWaveScene();
   // Bundles at the fixed angles -1 and +1 radian.
   void desmiMinusOne();
@@ -63,30 +78,22 @@ class kelmo : public Form {
   void Timer1_Timer();
   void Timer2_Timer();
 
-  Variant R1;     // radius of the left circle, user units
-  Variant R2;     // radius of the right circle, user units
-  Variant xc1;    // centre of the left circle on the axis, user units
-  Variant xc2;    // centre of the right circle on the axis, user units
-  Variant n;      // index of refraction
-  Variant vima;   // step between the rays of a fan, degrees
-  Variant xpigi;  // light source, user units
-  Variant ypigi;
   Variant gonia;  // angle of the last bundle with the horizontal, radians
 
  private:
-  // The interval of waves that are running, ms: as fast as they can be seen.
-  static constexpr int runningInterval = 1;
-
   void connectHandlers();
   void resized();
-  // Scale, source and blades as at the start, and the first drawing.
-  void placeScene();
-  void reloadLens();
-  void clearAndDraw();
-  // Clears the picture; what an animation had drawn on it is gone with it.
-  void clear();
-  Variant fanStep() const;
+  light::Edges edges() const { return light::edgesOf(canvas()); }
 
+  // Empties the picture and drops the set.
+  void clear();
+  void add(poreiaaktinon::Layer layer);
+  void clearAndDraw();
+  // After a change of the lens or the diaphragm: the lens scene, or in a run the waves for the new
+  // values.
+  void drawAnew();
+
+  void placeSource(Point source);
   // Where the three sliders put the diaphragm.
   poreiaaktinon::Diafragma diaphragmOfSliders() const;
   // Puts the blades there and writes the opening and the abscissa.
@@ -94,27 +101,50 @@ class kelmo : public Form {
   // The sliders go to the value nearest to where the blades stand, without moving them.
   void slidersFollowBlades();
 
-  void startFan(double X, double Y);
-  void prepareWavesInTime();
-  // The radius that the bar of a dragged edge gets when the mouse is at abscissa X.
-  int draggedRadius(const ScrollBar& bar, const Variant& centre, double X) const;
+  // A thing that the mouse holds from a press to the release.
+  struct Drag {
+    Grab grab = Grab::None;
+    Point taken;                         // where the press took it, user units
+    Point at;                            // where the mouse is
+    poreiaaktinon::Diafragma diafragma;  // as it was when it was taken
+    Point pigi;                          // likewise
+  };
+  Grab grabbedAt(Point p) const;
+  Room room() const;
+  void showDrag();
   void showDraggedEdge(double centre, int radius);
+  // Lets go what stands where it is seen.
+  void release(const Drag& drag);
+  // The drag is over, its previews are gone.
+  Drag endDrag();
+  // Ends a drag without a release: nothing is changed.
+  void dropDrag();
+  // The radius that the bar of a dragged edge gets.
+  static int draggedRadius(const Drag& drag, const ScrollBar& bar, double centre);
   // Writes a lens scroll bar, whose handler redraws; redraws all the same when nothing changed.
   void setLensValue(ScrollBar& bar, int value);
 
-  RaySet bundle(const Variant& angle);
-  RaySet fan();
-  void startWaves(Timer& own, Timer& other, RaySet set);
-  void waveTick(Timer& timer);
+  void startFan(Point source);
+  // A fan that moves as waves starts where the source stands now.
+  void moveFan();
+  void prepareWavesInTime();
+  // Sends rays over what is there; they are the set of moving waves, unless they are too many.
+  void sendRays(const poreiaaktinon::Rays& rays);
+  void startWaves(Timer& own, Timer& other, const poreiaaktinon::Rays& rays);
+  void waveTick(Timer& timer, MenuEntry& entry);
+  // The fronts of the present step; the white scene under them follows the controls.
+  void showFronts();
+  bool showsWaveScene() const;
+  // True while a timer that a wave entry started moves the waves on their white scene.
+  bool running() const;
+  void endRun();
 
-  Moves& moves_;
+  const Context context_;
   KelmoControls controls_;
-  WorkbenchView workbench_;
-  WaveAnimation animation_;
-  Grab grabbed_ = Grab::None;
-  double grabbedX_ = 0.0;                      // where the mouse took it, user units
-  poreiaaktinon::Diafragma grabbedDiaphragm_;  // as it was when the mouse took it
-  Variant ticks_;                              // tick counter, the time index of the waves
+  Easel<poreiaaktinon::Shown> easel_;
+  std::optional<poreiaaktinon::Sent> set_;
+  Drag drag_;
+  int ticks_ = 0;  // tick counter, the time index of the waves
 };
 
 }  // namespace lensbench

@@ -23,6 +23,10 @@ int nearestPercent(double start, double length, double place) {
 
 }  // namespace
 
+Diafragma kelmo::diafragma() const {
+  return {controls_.Line1.X2(), controls_.Line1.Y2(), controls_.Line2.Y2()};
+}
+
 Diafragma kelmo::diaphragmOfSliders() const {
   const Canvas& surface = canvas();
   return {alongHalf(surface.ScaleLeft(), surface.ScaleWidth(), controls_.HScroll1.Value()),
@@ -31,15 +35,18 @@ Diafragma kelmo::diaphragmOfSliders() const {
 }
 
 void kelmo::placeDiaphragm(const Diafragma& diafragma) {
-  const poreiaaktinon::Edges edges = poreiaaktinon::edgesOf(canvas());
-  controls_.Line1.between({diafragma.X, edges.upper}, {diafragma.X, diafragma.yA});
-  controls_.Line2.between({diafragma.X, edges.lower}, {diafragma.X, diafragma.yB});
+  const Point upperEnd{diafragma.X, diafragma.yA};
+  const Point lowerEnd{diafragma.X, diafragma.yB};
+  controls_.Line1.between({diafragma.X, edges().upper}, upperEnd);
+  controls_.Line2.between({diafragma.X, edges().lower}, lowerEnd);
+  controls_.upperBladeMark.follow(upperEnd);
+  controls_.lowerBladeMark.follow(lowerEnd);
   controls_.Text3.Text(labelled("οπή διαφράγματος =", formatWhole(diafragma.yA - diafragma.yB)));
   controls_.Text4.Text(labelled("Θέση διαφράγματος", formatWhole(diafragma.X)));
 }
 
 void kelmo::slidersFollowBlades() {
-  const Diafragma d = workbench_.diafragma();
+  const Diafragma d = diafragma();
   const Canvas& surface = canvas();
   const auto follow = [](ScrollBar& slider, int value) {
     const QSignalBlocker quiet(slider);
@@ -51,29 +58,26 @@ void kelmo::slidersFollowBlades() {
 }
 
 void kelmo::HScroll1_Change() {
-  Diafragma d = workbench_.diafragma();
+  Diafragma d = diafragma();
   d.X = diaphragmOfSliders().X;
   placeDiaphragm(d);
-  clearAndDraw();
+  drawAnew();
 }
 
 void kelmo::VScroll1_Change() {
   controls_.Line1.BorderColor(RGB(250, 0, 0));
   controls_.Line1.BorderWidth(4);
-  Diafragma d = workbench_.diafragma();
+  Diafragma d = diafragma();
   d.yA = std::max(diaphragmOfSliders().yA, d.yB);
   placeDiaphragm(d);
-  clearAndDraw();
+  drawAnew();
 }
 
 void kelmo::VScroll2_Change() {
-  Diafragma d = workbench_.diafragma();
+  Diafragma d = diafragma();
   d.yB = std::min(diaphragmOfSliders().yB, d.yA);
-  canvas().DrawWidth(10);
-  canvas().PSet(d.X, d.yB, RGB(255, 5, 255));
-  canvas().DrawWidth(1);
   placeDiaphragm(d);
-  clearAndDraw();
+  drawAnew();
 }
 
 }  // namespace lensbench

@@ -1,16 +1,17 @@
 // The mouse on the workbench: what a press takes, how a drag is seen, what a release changes.
 #include <utility>
 
-#include "optics/poreiaaktinon/CardinalPoints.h"
-#include "optics/poreiaaktinon/Tracing.h"
-#include "optics/protosfakos/SahlState.h"
-#include "screens/kelmo/Scene.h"
+#include "screens/Shared.h"
 #include "screens/kelmo/kelmo.h"
 
 namespace lensbench {
 namespace {
 
 constexpr int shiftKey = 1;
+
+bool takesDiaphragm(Grab grab) {
+  return grab == Grab::UpperBlade || grab == Grab::LowerBlade || grab == Grab::Diaphragm;
+}
 
 void centreMarkerAt(Shape& marker, Point p) {
   marker.Left(p.x - marker.Width() / 2.0);
@@ -25,71 +26,64 @@ void kelmo::Form_Click() {}
 void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   if (Button != leftButton) return;
   const Point p{X, Y};
-  grabbed_ =
-      grabAt(p, workbench_.diafragma(), workbench_.fakos(), poreiaaktinon::edgesOf(canvas()));
-  grabbedDiaphragm_ = workbench_.diafragma();
-  grabbedX_ = X;
-  const bool shift = (Shift & shiftKey) != 0;
-  if (shift && grabbed_ == Grab::None && !insideLens(p, workbench_.fakos())) {
-    startFan(X, Y);
-    return;
-  }
+  drag_ = {grabbedAt(p), p, p, diafragma(), pigi()};
+  if ((Shift & shiftKey) == 0) return drawAnew();
+  context_.shared.desmiMode = false;
+  endRun();
+  if (drag_.grab == Grab::None && !insideLens(p, fakos())) return startFan(p);
   clearAndDraw();
-  if (!shift) return;
-  protosfakos::state().desmiMode = false;
   if (controls_.Check2.Value()) prepareWavesInTime();
-  drawCardinalPoints(workbench_);
+  add(poreiaaktinon::CardinalMarks{fakos(), n(), pigi()});
 }
 
-void kelmo::startFan(double X, double Y) {
-  protosfakos::state().desmiMode = false;
-  // The source moves before the scene is drawn, so that the construction of the image starts from
-  // the very point that the rays start from.
-  controls_.pigi.Left(X);
-  controls_.pigi.Top(Y);
-  clearAndDraw();
-  controls_.Timer2.Interval(11500);
-  controls_.Timer2.Enabled(false);
-  // Waves of the old source that are still running end here: their rubbing out would eat the new
-  // picture.
-  if (controls_.Timer1.Interval() == runningInterval) controls_.Timer1.Interval(0);
-  ticks_ = 0;
-  animation_.start({poreiaaktinon::bentaliaaktinon(xc1, xc2, R1, R2, xpigi, ypigi), true});
+Grab kelmo::grabbedAt(Point p) const {
+  if (controls_.upperBladeMark.isAt(p)) return Grab::UpperBlade;
+  if (controls_.lowerBladeMark.isAt(p)) return Grab::LowerBlade;
+  if (controls_.sourceMark.isAt(p)) return Grab::Source;
+  return grabAt(p, diafragma(), fakos(), edges());
 }
 
-void kelmo::prepareWavesInTime() {
-  controls_.kymatachronika.Checked(true);
-  controls_.parallilakymata.Checked(false);
-  controls_.Timer2.Interval(1500);
-  controls_.Timer2.Enabled(false);
-  controls_.Timer1.Interval(1500);
+Room kelmo::room() const {
+  Room room{edges(), {}};
+  const UserMapping map = canvas().mapping();
+  for (const QWidget* control : drawingArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (!control->isVisibleTo(drawingArea())) continue;
+    const QRectF place = control->geometry();
+    const Point upperLeft = map.toUser({place.left(), place.top()});
+    const Point lowerRight = map.toUser({place.right(), place.bottom()});
+    room.controls.push_back({upperLeft.x, lowerRight.x, lowerRight.y, upperLeft.y});
+  }
+  return room;
 }
 
 void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  const Point p{X, Y};
-  switch (grabbed_) {
+  drag_.at = {X, Y};
+  showDrag();
+}
+
+void kelmo::showDrag() {
+  switch (drag_.grab) {
     case Grab::None:
       return;
     case Grab::LeftCentre:
-      return centreMarkerAt(controls_.Shape1, p);
+      return centreMarkerAt(controls_.Shape1, drag_.at);
     case Grab::RightCentre:
-      return centreMarkerAt(controls_.Shape2, p);
+      return centreMarkerAt(controls_.Shape2, drag_.at);
     case Grab::LeftEdge:
-      return showDraggedEdge(xc1.value(), draggedRadius(controls_.aktina1, xc1, X));
+      return showDraggedEdge(xc1(), draggedRadius(drag_, controls_.aktina1, xc1()));
     case Grab::RightEdge:
-      return showDraggedEdge(xc2.value(), draggedRadius(controls_.aktina2, xc2, X));
+      return showDraggedEdge(xc2(), draggedRadius(drag_, controls_.aktina2, xc2()));
     case Grab::UpperBlade:
     case Grab::LowerBlade:
     case Grab::Diaphragm:
-      return placeDiaphragm(
-          releasedDiaphragm(grabbed_, p, grabbedDiaphragm_, poreiaaktinon::edgesOf(canvas())));
+      return placeDiaphragm(releasedDiaphragm(drag_.grab, drag_.at, drag_.diafragma, room()));
+    case Grab::Source:
+      return placeSource(releasedSource(drag_.at, room()));
   }
 }
 
-int kelmo::draggedRadius(const ScrollBar& bar, const Variant& centre, double X) const {
-  // An edge is taken from a few units away too; a click alone changes nothing.
-  if (X == grabbedX_) return bar.Value();
-  return releasedRadius(X, centre.value(), bar.Min(), bar.Max());
+int kelmo::draggedRadius(const Drag& drag, const ScrollBar& bar, double centre) {
+  return releasedRadius(bar.Value(), centre, drag.taken.x, drag.at.x, bar.Min(), bar.Max());
 }
 
 void kelmo::showDraggedEdge(double centre, int radius) {
@@ -101,43 +95,58 @@ void kelmo::showDraggedEdge(double centre, int radius) {
   circle.Visible(true);
 }
 
-void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
-  if (Button != leftButton) return;
-  reloadLens();
-  const Grab released = std::exchange(grabbed_, Grab::None);
-  switch (released) {
-    case Grab::None:
-      break;
-    case Grab::LeftCentre:
-      setLensValue(controls_.kentrokykloy2, releasedCentre(X, controls_.kentrokykloy2.Min(), 0));
-      break;
-    case Grab::RightCentre:
-      setLensValue(controls_.kentrokykloy, releasedCentre(X, 0, controls_.kentrokykloy.Max()));
-      break;
-    case Grab::LeftEdge:
-      setLensValue(controls_.aktina1, draggedRadius(controls_.aktina1, xc1, X));
-      break;
-    case Grab::RightEdge:
-      setLensValue(controls_.aktina2, draggedRadius(controls_.aktina2, xc2, X));
-      break;
-    case Grab::UpperBlade:
-    case Grab::LowerBlade:
-    case Grab::Diaphragm:
-      placeDiaphragm(
-          releasedDiaphragm(released, {X, Y}, grabbedDiaphragm_, poreiaaktinon::edgesOf(canvas())));
-      slidersFollowBlades();
-      clearAndDraw();
-      break;
-  }
+kelmo::Drag kelmo::endDrag() {
   for (Shape* preview : {&controls_.Shape1, &controls_.Shape2, &controls_.draggedEdge}) {
     preview->Visible(false);
   }
+  return std::exchange(drag_, {});
+}
+
+void kelmo::dropDrag() {
+  const Drag dropped = endDrag();
+  if (dropped.grab == Grab::Source) placeSource(dropped.pigi);
+  if (!takesDiaphragm(dropped.grab)) return;
+  placeDiaphragm(dropped.diafragma);
+  slidersFollowBlades();
+  // Waves that met the dragged blades go on as before.
+  if (running()) showFronts();
+}
+
+void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
+  if (Button != leftButton) return;
+  drag_.at = {X, Y};
+  showDrag();
+  release(endDrag());
   if (controls_.Check2.Value()) prepareWavesInTime();
+}
+
+void kelmo::release(const Drag& drag) {
+  KelmoControls& c = controls_;
+  switch (drag.grab) {
+    case Grab::None:
+      return;
+    case Grab::LeftCentre:
+      return setLensValue(c.kentrokykloy2, releasedCentre(drag.at.x, c.kentrokykloy2.Min(), 0));
+    case Grab::RightCentre:
+      return setLensValue(c.kentrokykloy, releasedCentre(drag.at.x, 0, c.kentrokykloy.Max()));
+    case Grab::LeftEdge:
+      return setLensValue(c.aktina1, draggedRadius(drag, c.aktina1, xc1()));
+    case Grab::RightEdge:
+      return setLensValue(c.aktina2, draggedRadius(drag, c.aktina2, xc2()));
+    case Grab::UpperBlade:
+    case Grab::LowerBlade:
+    case Grab::Diaphragm:
+      slidersFollowBlades();
+      return drawAnew();
+    case Grab::Source:
+      moveFan();
+      return drawAnew();
+  }
 }
 
 void kelmo::setLensValue(ScrollBar& bar, int value) {
   if (bar.Value() == value) {
-    clearAndDraw();
+    drawAnew();
   } else {
     bar.Value(value);
   }

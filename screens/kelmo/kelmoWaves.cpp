@@ -1,30 +1,39 @@
-// Bundles of parallel rays, and the waves that move on the workbench.
+// Fans and bundles of rays, and the waves that they carry over the workbench.
+#include <algorithm>
+#include <utility>
+
 #include "canvas/qt/Dialogs.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Tracing.h"
-#include "optics/protosfakos/SahlState.h"
+#include "optics/poreiaaktinon/Fronts.h"
+#include "optics/poreiaaktinon/Numbers.h"
 #include "screens/Answers.h"
-#include "screens/kelmo/Scene.h"
+#include "screens/Shared.h"
 #include "screens/kelmo/kelmo.h"
 
 namespace lensbench {
 namespace {
 
+using poreiaaktinon::Desmi;
+using poreiaaktinon::Fan;
+using poreiaaktinon::Fronts;
+using poreiaaktinon::Sent;
+using poreiaaktinon::Shown;
+using poreiaaktinon::WaveScene;
+
+// The interval of waves that are running, ms: as fast as they can be seen.
+constexpr int runningInterval = 1;
 constexpr int lastDrawnStep = 240;
-constexpr double longestRun = 500.0;  // interval in ms times ticks
+constexpr int longestRun = 500;  // interval in ms times ticks
 
 }  // namespace
 
 void kelmo::EPANALIPSI_Click() {
   // Asked first, so that a cancelled question changes nothing at all.
-  const auto answer = dialogs().InputBox(
+  const auto answer = context_.dialogs.InputBox(
       QStringLiteral("Give angle with horizontal direction: -90<φ<90"), {}, QStringLiteral("0"));
   if (!answer) return;
-  const Variant degrees = numberFromAnswer(*answer);
-  protosfakos::state().desmiMode = true;
+  gonia = numberFromAnswer(*answer) * poreiaaktinon::pi / 180;
   ticks_ = 0;
   controls_.Timer1.Interval(1500);
-  gonia = degrees * (4 * Atn(1)) / 180;
   controls_.Timer1.Enabled(false);
   drawBundle(gonia);
   controls_.kymatachronika.Checked(false);
@@ -34,73 +43,123 @@ void kelmo::EPANALIPSI_Click() {
 }
 
 void kelmo::drawBundle(const Variant& angle) {
-  protosfakos::state().desmiMode = true;
+  context_.shared.desmiMode = true;
   clearAndDraw();
-  RaySet set = bundle(angle);
-  poreiaaktinon::drawPaths(canvas(), set.rays, workbench_.provoli());
-  animation_.start(std::move(set));
+  sendRays(Desmi{angle.value(), controls_.desmi1.Value()});
 }
 
 void kelmo::desmiMinusOne() { drawBundle(-1); }
 
 void kelmo::desmiPlusOne() { drawBundle(1); }
 
-RaySet kelmo::bundle(const Variant& angle) {
-  return {poreiaaktinon::bundlePaths(poreiaaktinon::setupOf(workbench_), angle.value(),
-                                     controls_.desmi1.Value()),
-          false};
+void kelmo::startFan(Point source) {
+  // The source moves before the scene is drawn, so that the construction of the image starts from
+  // the very point that the rays start from.
+  placeSource(source);
+  clearAndDraw();
+  controls_.parallilakymata.Checked(false);
+  controls_.Timer2.Interval(11500);
+  controls_.Timer2.Enabled(false);
+  ticks_ = 0;
+  sendRays(Fan{source, vima()});
 }
 
-RaySet kelmo::fan() {
-  WaveAnimation::requireRoomFor(static_cast<std::size_t>(poreiaaktinon::rayCount(vima.value())));
-  return {
-      poreiaaktinon::fanPaths(poreiaaktinon::setupOf(workbench_), workbench_.pigi(), vima.value()),
-      true};
+void kelmo::sendRays(const poreiaaktinon::Rays& rays) {
+  Sent sent = poreiaaktinon::send(bench(), rays, edges());
+  add(poreiaaktinon::Light{sent, provoli()});
+  if (sent.paths->size() <= poreiaaktinon::mostRays) set_ = std::move(sent);
+}
+
+void kelmo::moveFan() {
+  if (!set_) return;
+  if (const auto* fan = std::get_if<Fan>(&set_->rays)) {
+    set_ = poreiaaktinon::send(bench(), Fan{pigi(), fan->vima}, edges());
+  }
+}
+
+void kelmo::prepareWavesInTime() {
+  controls_.kymatachronika.Checked(true);
+  controls_.parallilakymata.Checked(false);
+  controls_.Timer2.Interval(1500);
+  controls_.Timer2.Enabled(false);
+  controls_.Timer1.Interval(1500);
 }
 
 void kelmo::drawWaveScene() {
-  n = controls_.deiktisdiathlasis.Value() / 100.0;
-  xc2 = controls_.kentrokykloy.Value();
-  xc1 = controls_.kentrokykloy2.Value();
-  animation_.drop();
-  lensbench::drawWaveScene(workbench_);
+  clear();
+  add(WaveScene{fakos(), n()});
 }
 
 void kelmo::parallilakymata_Click() {
-  startWaves(controls_.Timer2, controls_.Timer1, bundle(gonia));
+  startWaves(controls_.Timer2, controls_.Timer1, Desmi{gonia.value(), controls_.desmi1.Value()});
   controls_.parallilakymata.Checked(true);
   controls_.kymatachronika.Checked(false);
 }
 
 void kelmo::kymatachronika_Click() {
-  startWaves(controls_.Timer1, controls_.Timer2, fan());
+  poreiaaktinon::requireRoomFor(static_cast<std::size_t>(poreiaaktinon::rayCount(vima())));
+  startWaves(controls_.Timer1, controls_.Timer2, Fan{pigi(), vima()});
   controls_.kymatachronika.Checked(true);
   controls_.parallilakymata.Checked(false);
 }
 
-void kelmo::startWaves(Timer& own, Timer& other, RaySet set) {
+void kelmo::startWaves(Timer& own, Timer& other, const poreiaaktinon::Rays& rays) {
   other.Interval(2000);
   drawWaveScene();
-  animation_.start(std::move(set));
+  set_ = poreiaaktinon::send(bench(), rays, edges());
   ticks_ = 0;
   other.Enabled(false);
   own.Interval(runningInterval);
   own.Enabled(true);
 }
 
-void kelmo::Timer1_Timer() { waveTick(controls_.Timer1); }
+void kelmo::Timer1_Timer() { waveTick(controls_.Timer1, controls_.kymatachronika); }
 
-void kelmo::Timer2_Timer() { waveTick(controls_.Timer2); }
+void kelmo::Timer2_Timer() { waveTick(controls_.Timer2, controls_.parallilakymata); }
 
-void kelmo::waveTick(Timer& timer) {
-  const Variant elapsed = timer.Interval() * ticks_;
-  ticks_ = ticks_ + 1;
+void kelmo::waveTick(Timer& timer, MenuEntry& entry) {
+  const int elapsed = timer.Interval() * ticks_;
+  ++ticks_;
   if (elapsed > longestRun) {
     ticks_ = 0;
     timer.Interval(0);
+    entry.Checked(false);
     return;
   }
-  if (ticks_ <= lastDrawnStep) animation_.draw(workbench_, static_cast<int>(ticks_.value()));
+  if (ticks_ <= lastDrawnStep && set_) showFronts();
+}
+
+void kelmo::showFronts() {
+  set_ = poreiaaktinon::resent(*set_, bench(), edges());
+  Shown next = shown();
+  if (showsWaveScene()) {
+    next.layers = {WaveScene{fakos(), n()}};
+  } else {
+    std::erase_if(next.layers,
+                  [](const auto& layer) { return std::holds_alternative<Fronts>(layer); });
+  }
+  if (ticks_ > 0) next.layers.emplace_back(Fronts{*set_, std::min(ticks_, lastDrawnStep)});
+  easel_.show(std::move(next));
+}
+
+bool kelmo::showsWaveScene() const {
+  return !shown().layers.empty() && std::holds_alternative<WaveScene>(shown().layers.front());
+}
+
+bool kelmo::running() const {
+  const auto runs = [](const Timer& timer) {
+    return timer.Enabled() && timer.Interval() == runningInterval;
+  };
+  return set_ && showsWaveScene() && (runs(controls_.Timer1) || runs(controls_.Timer2));
+}
+
+void kelmo::endRun() {
+  for (const auto& [timer, entry] : {std::pair{&controls_.Timer1, &controls_.kymatachronika},
+                                     {&controls_.Timer2, &controls_.parallilakymata}}) {
+    if (timer->Interval() != runningInterval) continue;
+    timer->Interval(0);
+    entry->Checked(false);
+  }
 }
 
 }  // namespace lensbench

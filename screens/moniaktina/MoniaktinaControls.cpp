@@ -24,12 +24,24 @@ MoniaktinaControls::MoniaktinaControls(Form& form)
       Text7(form, "Text7", {2520, 1080, 3135, 375}),
       kentrokykloy(form, "kentrokykloy", Qt::Horizontal, {-120, 1080, 2655, 375}),
       aim(form, "aim", {0, 0, 0, 0}),
-      fos(form, "fos", {1080, 2160, 135, 135}) {
+      fos(form, "fos", {1080, 2160, 135, 135}),
+      sourceMark(form, "sourceMark", sourceColour) {
   setRanges();
   setLooks();
+  placeBars();
   makeRoomForTexts();
   describeAll();
   setTabOrder();
+}
+
+Point MoniaktinaControls::source() const {
+  return {fos.Left() + fos.Width() / 2.0, fos.Top() - fos.Height() / 2.0};
+}
+
+void MoniaktinaControls::placeSource(Point source) {
+  fos.Left(source.x - fos.Width() / 2.0);
+  fos.Top(source.y + fos.Height() / 2.0);
+  sourceMark.follow(source);
 }
 
 void MoniaktinaControls::setRanges() {
@@ -49,9 +61,19 @@ void MoniaktinaControls::setLooks() {
   Command1.Caption("Πίσω");
   fos.BorderColor(RGB(255, 0, 0));
   fos.FillStyle(FillStyle::Solid);
-  fos.FillColor(RGB(255, 128, 0));
+  fos.FillColor(sourceColour);
   aim.BorderStyle(BorderStyle::Dotted);
   aim.Visible(false);
+}
+
+// Flush, one under the other, and inside the window.
+void MoniaktinaControls::placeBars() {
+  constexpr int rowHeight = 24;  // pixels
+  for (ScrollBar* bar : {&aktina2, &aktina1, &deiktisdiathlasis, &kentrokykloy}) {
+    const QRect place = bar->geometry();
+    bar->setGeometry(QRect(QPoint(std::max(place.left(), 0), place.top()), place.bottomRight()));
+    bar->resize(bar->width(), rowHeight);
+  }
 }
 
 void MoniaktinaControls::makeRoomForTexts() {

@@ -7,6 +7,7 @@
 #include "canvas/qt/ScrollBar.h"
 #include "canvas/qt/Shape.h"
 #include "canvas/qt/TextBox.h"
+#include "screens/EdgeMark.h"
 
 namespace lensbench {
 
@@ -23,13 +24,20 @@ struct MoniaktinaControls {
   TextBox Text7;                // abscissa of the centre of circle 2
   ScrollBar kentrokykloy;       // abscissa of the centre of circle 2
 
-  LineControl aim;  // from the source to the mouse while the button is held
-  Shape fos;        // light source; its middle is the source
+  LineControl aim;      // from the source to the mouse while the button is held
+  Shape fos;            // light source; its middle is the source
+  EdgeMark sourceMark;  // while the source is out of sight
+
+  // The source, user units.
+  Point source() const;
+  // Moves the source there.
+  void placeSource(Point source);
 
  private:
   void setRanges();
   void setLooks();
   void describeAll();
+  void placeBars();
   void makeRoomForTexts();
   void setTabOrder();
 };

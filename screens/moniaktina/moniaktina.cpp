@@ -1,18 +1,23 @@
 #include "screens/moniaktina/moniaktina.h"
 
+#include <utility>
+
+#include <QGuiApplication>
+#include <QScreen>
+
 #include "canvas/Format.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Tracing.h"
 #include "screens/DisplayScale.h"
 #include "screens/Handlers.h"
+#include "screens/Moves.h"
 #include "screens/Texts.h"
-#include "screens/moniaktina/SingleRayPicture.h"
 
 namespace lensbench {
-namespace {
 
-using poreiaaktinon::SinglePair;
+namespace single = poreiaaktinon::single;
 using poreiaaktinon::toSingle;
+
+namespace {
 
 const FormDesign design{"moniaktina", "ΜΙΑ ΑΚΤΙΝΑ", 60, 315, 6630, 3225, RGB(255, 255, 255)};
 
@@ -20,9 +25,17 @@ QString radius1Text(int value) { return labelled("Ακτίνα 1 =", formatWhole
 QString radius2Text(int value) { return labelled("Ακτίνα 2 =", formatWhole(value)); }
 QString centreText(int value) { return labelled("Κέντρο δεξιά=", formatWhole(value)); }
 
+Point inSingles(Point p) { return {toSingle(p.x), toSingle(p.y)}; }
+
+// Whether the diaphragm has stopped the ray that was drawn last.
+bool stopped(const single::Shown& shown) {
+  const auto* ray = std::get_if<single::Ray>(&shown.layers.back());
+  return ray != nullptr && ray->sent.paths->front().ending == light::Ending::Diaphragm;
+}
+
 }  // namespace
 
-moniaktina::moniaktina(Moves& moves) : Form(design), moves_(moves), controls_(*this) {
+moniaktina::moniaktina(const Context& context) : Form(design), context_(context), controls_(*this) {
   setAccessibleName("Μία ακτίνα · One ray");
   drawingArea()->setToolTip(
       "Πάτησε για να βάλεις την πηγή, σύρε και άφησε για να στείλεις την ακτίνα. "
@@ -35,32 +48,50 @@ moniaktina::moniaktina(Moves& moves) : Form(design), moves_(moves), controls_(*t
 
 void moniaktina::connectHandlers() {
   MoniaktinaControls& c = controls_;
-  on<Form>(*this, &Form::MouseDown, *this, &moniaktina::Form_MouseDown);
-  on<Form>(*this, &Form::MouseMove, *this, &moniaktina::Form_MouseMove);
-  on<Form>(*this, &Form::MouseUp, *this, &moniaktina::Form_MouseUp);
-  on<Form>(*this, &Form::Resized, *this, &moniaktina::resized);
-  on<Form>(*this, &Form::CloseBox, *this, &moniaktina::Command1_Click);
-  on(c.aktina1, &ScrollBar::Change, *this, &moniaktina::aktina1_Change);
-  on(c.aktina2, &ScrollBar::Change, *this, &moniaktina::aktina2_Change);
-  on(c.kentrokykloy, &ScrollBar::Change, *this, &moniaktina::kentrokykloy_Change);
-  on(c.deiktisdiathlasis, &ScrollBar::Change, *this, &moniaktina::deiktisdiathlasis_Change);
-  on(c.Command1, &CommandButton::Click, *this, &moniaktina::Command1_Click);
+  Actions& actions = context_.actions;
+  on<Form>(actions, *this, &Form::MouseDown, *this, &moniaktina::Form_MouseDown);
+  on<Form>(actions, *this, &Form::MouseMove, *this, &moniaktina::Form_MouseMove);
+  on<Form>(actions, *this, &Form::MouseUp, *this, &moniaktina::Form_MouseUp);
+  on<Form>(actions, *this, &Form::DragEnded, *this, &moniaktina::dragEnded);
+  on<Form>(actions, *this, &Form::Resized, *this, &moniaktina::resized);
+  on<Form>(actions, *this, &Form::CloseBox, *this, &moniaktina::Command1_Click);
+  on(actions, c.aktina1, &ScrollBar::Change, *this, &moniaktina::aktina1_Change);
+  on(actions, c.aktina2, &ScrollBar::Change, *this, &moniaktina::aktina2_Change);
+  on(actions, c.kentrokykloy, &ScrollBar::Change, *this, &moniaktina::kentrokykloy_Change);
+  on(actions, c.deiktisdiathlasis, &ScrollBar::Change, *this,
+     &moniaktina::deiktisdiathlasis_Change);
+  on(actions, c.Command1, &CommandButton::Click, *this, &moniaktina::Command1_Click);
 }
 
 void moniaktina::fitDisplay() {
-  justOpened_ = true;
-  // A screen that was left by the keyboard during a drag saw no release.
-  controls_.aim.Visible(false);
   fillDisplay();
-  scaleToClientArea(*this);
+  const bool firstTime = !canvas().hasUserScale();
+  const double x = controls_.fos.Left() + controls_.fos.Width() / 2.0;
+  const double y = controls_.fos.Top() + controls_.fos.Height() / 2.0;
+  resized();
+  if (!firstTime) return;
+  // The window is as large as the display only once it is shown; there the source stands where it
+  // is designed, in twips down from the upper left.
+  const QSizeF display = twipsPerPixel * QGuiApplication::primaryScreen()->availableSize();
+  const double unit = (display.width() + display.height()) / 1200.0;
+  controls_.placeSource({(x - display.width() / 2.0) / unit, (display.height() / 2.0 - y) / unit});
 }
 
 void moniaktina::resized() {
-  // The real size of the window is known only after the window manager has placed it; until the
-  // student touches the screen the picture fits itself to every size. Later it stays.
-  if (!justOpened_) return;
+  const Point source = controls_.source();
+  const Point aimedAt{controls_.aim.X2(), controls_.aim.Y2()};
   scaleToClientArea(*this);
-  drawLens();
+  controls_.placeSource(source);
+  controls_.aim.between(source, aimedAt);
+  easel_.show(single::fittedTo(light::edgesOf(canvas()), easel_.shown()));
+}
+
+void moniaktina::dragEnded() { controls_.aim.Visible(false); }
+
+void moniaktina::push(single::Layer layer) {
+  single::Shown next = easel_.shown();
+  next.layers.push_back(std::move(layer));
+  easel_.show(std::move(next));
 }
 
 void moniaktina::drawLens() {
@@ -70,7 +101,8 @@ void moniaktina::drawLens() {
 
 void moniaktina::sxediasifakoy(const Variant& R1, const Variant& R2, const Variant& xc1,
                                const Variant& xc2) {
-  drawLensAlone(canvas(), R1, R2, xc1, xc2, deiktis);
+  easel_.show({});
+  push(single::LensAlone{single::outlineOf(R1, R2, xc1, xc2, deiktis)});
 }
 
 void moniaktina::miaaktina(float xs, float ys, float xa, float ya) {
@@ -78,24 +110,21 @@ void moniaktina::miaaktina(float xs, float ys, float xa, float ya) {
   kentro2 = controls_.kentrokykloy.Value();
   aktinaR1 = controls_.aktina1.Value();
   aktinaR2 = controls_.aktina2.Value();
-  drawLensUnderRay(canvas(), aktinaR1, aktinaR2, kentro2, deiktis);
+  push(single::LensUnderRay{single::outlineOf(aktinaR1, aktinaR2, 0, kentro2, deiktis)});
   canvas().FontName("Arial Greek");
-  const SinglePair source = sourceCentre();
-  const SinglePair direction = aimedDirection(xs, ys, xa, ya);
-  poreiaaktinon::poreiamiasaktinas(canvas(), source.x, source.y, direction.x, direction.y, 0,
-                                   kentro2, aktinaR1, aktinaR2, deiktis);
+  const poreiaaktinon::Bench bench{{0.0, aktinaR1.value(), kentro2.value(), aktinaR2.value()},
+                                   deiktis.value(),
+                                   context_.moves.diafragma()};
+  const poreiaaktinon::SingleRay ray{inSingles(controls_.source()),
+                                     single::aimedDirection(xs, ys, xa, ya)};
+  push(single::Ray{poreiaaktinon::send(bench, ray, light::edgesOf(canvas()))});
 }
 
-SinglePair moniaktina::sourceCentre() const {
-  const Shape& fos = controls_.fos;
-  return {toSingle(fos.Left() + fos.Width() / 2.0), toSingle(fos.Top() - fos.Height() / 2.0)};
-}
-
-void moniaktina::sendRay(float xa, float ya) {
-  canvas().Cls();
-  const SinglePair source = sourceCentre();
-  canvas().Line(source.x, source.y, xa, ya);
-  miaaktina(source.x, source.y, xa, ya);
+void moniaktina::sendRay(Point aim) {
+  easel_.show({});
+  const Point source = controls_.source();
+  push(single::AimLine{inSingles(source), inSingles(aim)});
+  miaaktina(toSingle(source.x), toSingle(source.y), toSingle(aim.x), toSingle(aim.y));
 }
 
 void moniaktina::Form_Load() {
@@ -107,36 +136,31 @@ void moniaktina::Form_Load() {
       labelled("Index of Refraction n = ", formatHundredths(c.deiktisdiathlasis.Value() / 100.0)));
   AutoRedraw(true);
   drawLens();
-  sendRay(toSingle(c.fos.Left() / 2.0), toSingle(c.fos.Top() / 2.0));
+  sendRay({c.fos.Left() / 2.0, c.fos.Top() / 2.0});
 }
 
 void moniaktina::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
-  justOpened_ = false;
-  MoniaktinaControls& c = controls_;
-  c.fos.Left(X);
-  c.fos.Top(Y);
-  const SinglePair source = sourceCentre();
-  c.aim.between({source.x, source.y}, {X, Y});
-  c.aim.Visible(true);
+  controls_.fos.Left(X);
+  controls_.fos.Top(Y);
+  controls_.sourceMark.follow(controls_.source());
+  controls_.aim.between(controls_.source(), {X, Y});
+  controls_.aim.Visible(true);
 }
 
 void moniaktina::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  if (!controls_.aim.Visible()) return;
-  controls_.aim.X2(X);
-  controls_.aim.Y2(Y);
+  if (controls_.aim.Visible()) controls_.aim.between(controls_.source(), {X, Y});
 }
 
 void moniaktina::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
   controls_.aim.Visible(false);
-  // Once used, the hint would only cover the picture.
-  drawingArea()->setToolTip({});
-  sendRay(toSingle(X), toSingle(Y));
+  sendRay({X, Y});
+  // Once a ray has passed, the hint would only cover the picture.
+  if (!stopped(easel_.shown())) drawingArea()->setToolTip({});
 }
 
 void moniaktina::lensChanged() {
-  justOpened_ = false;
   aktinaR1 = controls_.aktina1.Value();
   aktinaR2 = controls_.aktina2.Value();
   kentro1 = 0;
@@ -160,12 +184,11 @@ void moniaktina::kentrokykloy_Change() {
 }
 
 void moniaktina::deiktisdiathlasis_Change() {
-  justOpened_ = false;
   deiktis = controls_.deiktisdiathlasis.Value() / 100.0;
-  // Not the spelling of Form_Load: no capital, no blank before the sign.
+  // Kept on purpose: not the spelling of Form_Load, but no capital and no blank before the sign.
   controls_.Text2.Text(labelled("Index of refraction n= ", formatHundredths(deiktis)));
 }
 
-void moniaktina::Command1_Click() { moves_.leaveSingleRay(); }
+void moniaktina::Command1_Click() { context_.moves.leaveSingleRay(); }
 
 }  // namespace lensbench

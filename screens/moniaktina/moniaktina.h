@@ -4,17 +4,19 @@
 
 #include "canvas/Variant.h"
 #include "canvas/qt/Form.h"
-#include "optics/poreiaaktinon/Geometry.h"
-#include "screens/Moves.h"
+#include "optics/poreiaaktinon/SingleRayPicture.h"
+#include "screens/Context.h"
+#include "screens/Easel.h"
 #include "screens/moniaktina/MoniaktinaControls.h"
 
 namespace lensbench {
 
 class moniaktina : public Form {
  public:
-  explicit moniaktina(Moves& moves);
+  explicit moniaktina(const Context& context);
 
   MoniaktinaControls& controls() { return controls_; }
+  const poreiaaktinon::single::Shown& shown() const { return easel_.shown(); }
 
   // Fills the display and puts the origin in the middle of the client area, which is 1200 units
   // wide and high together; a unit is as long in x as in y.
@@ -47,16 +49,17 @@ class moniaktina : public Form {
 
  private:
   void connectHandlers();
+  void dragEnded();
   void resized();
   void lensChanged();
-  poreiaaktinon::SinglePair sourceCentre() const;
-  // Clears and draws the ray from the source towards (xa, ya), with the line of its aim.
-  void sendRay(float xa, float ya);
+  // Draws over what is there.
+  void push(poreiaaktinon::single::Layer layer);
+  // Clears and draws the ray from the source towards a point, with the line of its aim.
+  void sendRay(Point aim);
 
-  Moves& moves_;
+  Context context_;
   MoniaktinaControls controls_;
-  // From the moment the screen is opened until something is changed on it.
-  bool justOpened_ = false;
+  Easel<poreiaaktinon::single::Shown> easel_{*this};
 };
 
 }  // namespace lensbench

@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2046
+# shellcheck shell=bash disable=SC2034,SC2046
 # What the desktop tests share: the program on a display, and questions to pictures.
 # To be sourced by a test that got the program as its first argument.
 set -euo pipefail
@@ -13,9 +13,9 @@ ray_in_air='rgb(255,0,0)'
 ray_in_glass='rgb(0,0,255)'
 glass='rgb(220,220,195)'
 
-# begin [SIZE]: the program on a display of its own; the workbench's window in `bench`.
+# begin [SIZE [MANAGER]]: the program on a display of its own; the workbench's window in `bench`.
 begin() {
-  start_display "${1:-1366x768}"
+  start_display "${1:-1366x768}" "${2-}"
   start_program "$executable"
   bench=$(window "SPHERICAL  LENSES")
   settle
@@ -65,4 +65,43 @@ expect_same() {
 }
 expect_different() {
   if (($(differing "$1" "$2") == 0)); then fail "pictures $1 and $2 are the same"; fi
+}
+
+# place WINDOW: X Y WIDTH HEIGHT of the window with its frame, pixels.
+place() {
+  local x y width height left=0 right=0 top=0 bottom=0
+  read -r x y width height < <(xwininfo -id "$1" | awk -F: '
+    /Absolute upper-left [XY]/ || /^ *(Width|Height)/ { printf "%d ", $2 } END { print "" }')
+  IFS=', ' read -r left right top bottom < <(
+    xprop -id "$1" _NET_FRAME_EXTENTS | sed -n 's/.*= //p' | grep . || echo "0, 0, 0, 0"
+  )
+  echo "$((x - left)) $((y - top)) $((width + left + right)) $((height + top + bottom))"
+}
+expect_place() {
+  local found tries
+  for ((tries = 0; tries < 40; ++tries)); do
+    found=$(place "$1")
+    if [[ $found == "$2" ]]; then return; fi
+    sleep 0.05
+  done
+  fail "the window stands at $found, not at $2"
+}
+
+# minimise WINDOW, as the frame's button does.
+minimise() {
+  xdotool windowminimize "$1"
+  settle
+}
+maximise() {
+  wmctrl -i -r "$1" -b add,maximized_vert,maximized_horz
+  settle
+}
+make_ordinary() {
+  wmctrl -i -r "$1" -b remove,maximized_vert,maximized_horz
+  settle
+}
+# resize WINDOW WIDTH HEIGHT: the client area with the menu bar, pixels.
+resize() {
+  xdotool windowsize "$1" "$2" "$3"
+  settle
 }

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <vector>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QMenuBar>
 #include <QStyleHints>
 #include <QTest>
@@ -135,10 +137,31 @@ TEST_F(Controls, ALongCaptionWrapsAndTheButtonGrowsUntilNothingIsClipped) {
   EXPECT_EQ(button.Caption(), "Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ & PLANE CONVEX HYPERBOLIC ");
   const QStringList lines = button.text().split('\n');
   EXPECT_GT(lines.size(), 2);
-  EXPECT_EQ(lines.join(' ').replace("&&", "&"),
-            "Επιπεδόκυρτος ΥΠΕΡΒΟΛΙΚΟΣ & PLANE CONVEX HYPERBOLIC");
+  for (const QString& line : lines) {
+    EXPECT_LE(button.fontMetrics().horizontalAdvance(line.trimmed()), 100);
+  }
   EXPECT_EQ(button.width(), 100);
   EXPECT_GE(button.height(), lines.size() * button.fontMetrics().lineSpacing());
+}
+
+TEST_F(Controls, ACaptionKeepsEveryBlankAndItsWordsStayWhole) {
+  CommandButton button(form, "Command1", {0, 0, 2220, 855});
+  for (const char* caption :
+       {"Αμφίκυρτος ΥΠΕΡΒΟΛΙΚΟΣ BICONVEX HYPERBOLIC ", "SPHERICAL  LENSES", "  A  B & C   ", " ",
+        "WAVES IN  TIME  XPONIKA AND  A  LONG  CAPTION  MORE"}) {
+    button.Caption(caption);
+    EXPECT_EQ(button.Caption(), caption);
+    EXPECT_EQ(button.accessibleName(), caption);
+    const QString shown = button.text().replace("&&", "&");
+    EXPECT_EQ(QString(shown).remove('\n'), caption);
+    const QStringList lines = shown.split('\n');
+    for (const QString& line : lines.mid(1)) {
+      EXPECT_FALSE(line.startsWith(' ')) << shown.toStdString();
+    }
+    for (const QString& line : lines.mid(0, lines.size() - 1)) {
+      EXPECT_TRUE(line.endsWith(' ')) << shown.toStdString();
+    }
+  }
 }
 
 TEST_F(Controls, ACheckBoxFiresClickByHandOnly) {
@@ -197,12 +220,73 @@ TEST_F(Controls, TheCheckMarkOfAMenuEntryIsSeenAndOnlyCodeSetsIt) {
   EXPECT_FALSE(waves.Checked());
   waves.Checked(true);
   EXPECT_TRUE(waves.Checked());
-  EXPECT_NE(waves.text(), "WAVES");
   EXPECT_EQ(waves.Caption(), "WAVES");
   waves.trigger();
   EXPECT_TRUE(waves.Checked());
+}
+
+TEST_F(Controls, TheCheckMarkOfAMenuEntryHasRoomOfItsOwn) {
+  MenuEntry before(form, "singleray", "AKTINA RAY");
+  MenuEntry waves(form, "parallilakymata", "// WAVES  KYMATA");
+  MenuEntry after(form, "TELIOMA", "END");
   waves.Checked(false);
-  EXPECT_EQ(waves.text(), "WAVES");
+  form.Show();
+  QMenuBar& bar = *form.menuBar();
+  const auto places = [&] {
+    QList<QRect> all;
+    for (QAction* entry : bar.actions()) all << bar.actionGeometry(entry);
+    return all;
+  };
+  const auto captionOf = [&] {
+    // What lies right of the room for the mark.
+    const int room = bar.fontMetrics().horizontalAdvance("✓ ");
+    return bar.grab(bar.actionGeometry(&waves).adjusted(room + 3, 0, 0, 0)).toImage();
+  };
+  const QList<QRect> free = places();
+  const QImage unmarked = bar.grab().toImage();
+  const QImage caption = captionOf();
+  waves.Checked(true);
+  EXPECT_EQ(places(), free);
+  EXPECT_EQ(waves.text(), "// WAVES  KYMATA");
+  EXPECT_EQ(captionOf(), caption);
+  EXPECT_NE(bar.grab().toImage(), unmarked);
+  waves.Checked(false);
+  EXPECT_EQ(bar.grab().toImage(), unmarked);
+  EXPECT_GT(bar.actionGeometry(&waves).width() - bar.fontMetrics().horizontalAdvance(waves.text()),
+            bar.actionGeometry(&after).width() - bar.fontMetrics().horizontalAdvance("END"));
+}
+
+TEST_F(Controls, AltAndF10ShowWhereTheKeyboardIsInTheMenuBar) {
+  MenuEntry waves(form, "parallilakymata", "WAVES");
+  MenuEntry end(form, "TELIOMA", "END");
+  waves.Checked(true);
+  ScrollBar bar(form, "aktina1", Qt::Horizontal, {0, 0, 1500, 300});
+  form.Show();
+  form.activateWindow();
+  bar.setFocus();
+  QApplication::processEvents();
+  QMenuBar& menu = *form.menuBar();
+  const auto highlighted = [&](QAction& entry) {
+    const QImage seen = menu.grab(menu.actionGeometry(&entry)).toImage();
+    return seen.pixelColor(2, seen.height() / 2) == menu.palette().color(QPalette::Highlight);
+  };
+  EXPECT_FALSE(highlighted(waves));
+  for (const Qt::Key key : {Qt::Key_Alt, Qt::Key_F10}) {
+    QTest::keyClick(&bar, key);
+    ASSERT_TRUE(menu.hasFocus()) << key;
+    EXPECT_TRUE(highlighted(waves)) << key;
+    EXPECT_FALSE(highlighted(end)) << key;
+    QTest::keyClick(&menu, Qt::Key_Right);
+    EXPECT_FALSE(highlighted(waves)) << key;
+    EXPECT_TRUE(highlighted(end)) << key;
+    QTest::keyClick(&menu, Qt::Key_Escape);
+    EXPECT_TRUE(bar.hasFocus()) << key;
+    EXPECT_FALSE(highlighted(end)) << key;
+    // A command gives the keyboard back too.
+    QTest::keyClick(&bar, key);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    EXPECT_TRUE(bar.hasFocus()) << key;
+  }
 }
 
 TEST_F(Controls, TheCheckMarkOfAMenuEntryIsToldToThoseWhoCannotSeeIt) {
@@ -263,6 +347,110 @@ TEST_F(Controls, TextStandsOnTheBackgroundOfTheForm) {
   for (const QWidget* control : std::initializer_list<QWidget*>{&label, &check, &option}) {
     EXPECT_EQ(seen.pixelColor(control->geometry().bottomRight()), QColor(Qt::white))
         << control->objectName().toStdString();
+  }
+}
+
+// The desktop's colours, for as long as it lives.
+class Desktop {
+ public:
+  Desktop(const QColor& plates, const QColor& window, const QColor& text) {
+    QPalette colours(plates, window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      colours.setColor(role, text);
+    }
+    QApplication::setPalette(colours);
+  }
+  ~Desktop() { QApplication::setPalette(before_); }
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+ private:
+  QPalette before_ = QApplication::palette();
+};
+
+const QColor grey(239, 239, 239);
+const QColor darkGrey(50, 50, 50);
+
+// The controls that stand on the background of their form.
+struct PlainControls {
+  explicit PlainControls(const FormDesign& formDesign) : form(formDesign) {
+    label.Caption("Πολλαπλασιαστής");
+    check.Caption("SHOW ONLY WAVES");
+    check.Value(true);
+    option.Caption("Only Rays");
+    option.Value(true);
+  }
+  QImage picture() { return form.drawingArea()->grab(QRect(0, 0, 250, 80)).toImage(); }
+
+  Form form;
+  Label label{form, "label", {0, 0, 3000, 375}};
+  CheckBox check{form, "check", {0, 375, 3000, 375}};
+  OptionButton option{form, "option", {0, 750, 3000, 375}};
+};
+
+TEST(DesktopColours, OnAWhiteAreaWordsAndMarksLookTheSameWhateverTheDesktop) {
+  const auto seen = [](const Desktop&) { return PlainControls(design).picture(); };
+  const QImage light = seen({grey, grey, Qt::black});
+  EXPECT_EQ(light.pixelColor(249, 40), QColor(Qt::white));
+  EXPECT_EQ(seen({darkGrey, darkGrey, Qt::white}), light);
+  EXPECT_EQ(seen({QColor(49, 54, 59), QColor(35, 38, 41), QColor(239, 240, 241)}), light);
+}
+
+TEST(DesktopColours, OfHighContrastStandOnPlates) {
+  const Desktop desktop(Qt::black, Qt::black, Qt::white);
+  PlainControls controls(design);
+  const QImage seen = controls.picture();
+  for (const QWidget* control :
+       std::initializer_list<QWidget*>{&controls.label, &controls.check, &controls.option}) {
+    EXPECT_EQ(seen.pixelColor(control->geometry().bottomRight()), QColor(Qt::black));
+    EXPECT_EQ(control->palette().color(QPalette::WindowText), QColor(Qt::white));
+  }
+  EXPECT_EQ(seen.pixelColor(240, 78), QColor(Qt::white));
+  // Whether a box is checked is seen, and that it is there.
+  const auto box = [&] { return controls.check.grab(QRect(3, 8, 8, 8)).toImage(); };
+  const QImage checked = box();
+  controls.check.Value(false);
+  EXPECT_NE(box(), checked);
+  EXPECT_EQ(box().pixelColor(4, 4), QColor(Qt::white));
+}
+
+TEST(DesktopColours, AreFollowedWhenTheyChange) {
+  PlainControls controls(design);
+  const QImage before = controls.picture();
+  {
+    const Desktop desktop(Qt::black, Qt::black, Qt::yellow);
+    QApplication::processEvents();
+    EXPECT_EQ(controls.check.palette().color(QPalette::WindowText), QColor(Qt::yellow));
+  }
+  QApplication::processEvents();
+  EXPECT_EQ(controls.picture(), before);
+}
+
+TEST(DesktopColours, AreTakenByAFormWithoutABackgroundOfItsOwn) {
+  const Desktop desktop(darkGrey, darkGrey, Qt::white);
+  FormDesign plain = design;
+  plain.background.reset();
+  PlainControls controls(plain);
+  EXPECT_EQ(controls.label.palette().color(QPalette::WindowText), QColor(Qt::white));
+  EXPECT_EQ(controls.picture().pixelColor(249, 40), darkGrey);
+}
+
+TEST(DesktopColours, LeaveTheArrowsOfAScrollBarInSight) {
+  for (const QColor& plates : {grey, darkGrey}) {
+    const Desktop desktop(plates, plates, plates == grey ? Qt::black : Qt::white);
+    Form form(design);
+    ScrollBar bar(form, "aktina1", Qt::Horizontal, {0, 0, 3000, 300});
+    const QImage arrow = bar.grab(QRect(3, 4, 10, 12)).toImage();
+    int darkest = 255;
+    int lightest = 0;
+    for (int y = 0; y < arrow.height(); ++y) {
+      for (int x = 0; x < arrow.width(); ++x) {
+        const int here = qGray(arrow.pixel(x, y));
+        darkest = std::min(darkest, here);
+        lightest = std::max(lightest, here);
+      }
+    }
+    EXPECT_GT(lightest - darkest, 90) << plates.name().toStdString();
   }
 }
 

@@ -29,36 +29,42 @@ void withNextBox(std::function<void(Box&)> act) {
   poll->start(5);
 }
 
-TEST(QtDialogs, AMessageBoxShowsItsTextUnderTheProgramsName) {
+class Boxes : public testing::Test {
+ protected:
+  QtClock clock;
+  QtDialogs dialogs{clock};
+};
+
+TEST_F(Boxes, AMessageBoxShowsItsTextUnderTheProgramsName) {
   QString title, text;
   withNextBox<QMessageBox>([&](QMessageBox& box) {
     title = box.windowTitle();
     text = box.text();
     box.accept();
   });
-  dialogs().MsgBox("  ARNHTIKO");
+  dialogs.MsgBox("  ARNHTIKO");
   EXPECT_EQ(title, "Lens Bench");
   EXPECT_EQ(text, "  ARNHTIKO");
 }
 
-TEST(QtDialogs, AnInputBoxGivesWhatWasEnteredOrNothing) {
+TEST_F(Boxes, AnInputBoxGivesWhatWasEnteredOrNothing) {
   withNextBox<QInputDialog>([](QInputDialog& box) {
     EXPECT_EQ(box.windowTitle(), "Angle");
     EXPECT_EQ(box.textValue(), "0");
     box.setTextValue("22,5");
     box.accept();
   });
-  EXPECT_EQ(dialogs().InputBox("Degrees?", "Angle", "0"), std::optional<QString>("22,5"));
+  EXPECT_EQ(dialogs.InputBox("Degrees?", "Angle", "0"), std::optional<QString>("22,5"));
   withNextBox<QInputDialog>([](QInputDialog& box) {
     box.setTextValue("");
     box.accept();
   });
-  EXPECT_EQ(dialogs().InputBox("Degrees?", "", "0"), std::optional<QString>(""));
+  EXPECT_EQ(dialogs.InputBox("Degrees?", "", "0"), std::optional<QString>(""));
   withNextBox<QInputDialog>([](QInputDialog& box) { box.reject(); });
-  EXPECT_EQ(dialogs().InputBox("Degrees?", "", "0"), std::nullopt);
+  EXPECT_EQ(dialogs.InputBox("Degrees?", "", "0"), std::nullopt);
 }
 
-TEST(QtDialogs, ACriticalBoxShowsAllItsWords) {
+TEST_F(Boxes, ACriticalBoxShowsAllItsWords) {
   QString text, informative;
   QMessageBox::Icon icon{};
   withNextBox<QMessageBox>([&](QMessageBox& box) {
@@ -67,15 +73,15 @@ TEST(QtDialogs, ACriticalBoxShowsAllItsWords) {
     icon = box.icon();
     box.accept();
   });
-  dialogs().Critical("", "Error 11: Division by zero", "It happened.");
+  dialogs.Critical("", "Error 11: Division by zero", "It happened.");
   EXPECT_EQ(text, "Error 11: Division by zero");
   EXPECT_EQ(informative, "It happened.");
   EXPECT_EQ(icon, QMessageBox::Critical);
 }
 
-TEST(QtDialogs, TimersDoNotTickBehindABox) {
+TEST_F(Boxes, TimersDoNotTickBehindABox) {
   Form form{FormDesign{}};
-  Timer timer(form, "Timer1");
+  Timer timer(form, "Timer1", clock);
   int ticks = 0;
   QObject::connect(&timer, &Timer::Tick, [&] { ++ticks; });
   timer.Interval(17);
@@ -84,25 +90,8 @@ TEST(QtDialogs, TimersDoNotTickBehindABox) {
     EXPECT_EQ(ticks, 0);
     box.accept();
   });
-  dialogs().MsgBox("…");
+  dialogs.MsgBox("…");
   EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }, 2000));
-}
-
-TEST(Dialogs, OthersMayAnswer) {
-  struct Answers : Dialogs {
-    void MsgBox(const QString& text, const QString&) override { said = text; }
-    std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
-      return "30";
-    }
-    void Critical(const QString&, const QString&, const QString&) override {}
-    QString said;
-  } answers;
-  useDialogs(&answers);
-  dialogs().MsgBox("hello");
-  EXPECT_EQ(dialogs().InputBox("", "", ""), std::optional<QString>("30"));
-  EXPECT_EQ(answers.said, "hello");
-  useDialogs(nullptr);
-  EXPECT_NE(dynamic_cast<QtDialogs*>(&dialogs()), nullptr);
 }
 
 }  // namespace

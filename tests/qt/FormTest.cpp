@@ -1,12 +1,14 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <vector>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMenuBar>
 #include <QTest>
 
-#include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/CommandButton.h"
+#include "canvas/qt/DrawingArea.h"
 #include "canvas/qt/Form.h"
 #include "canvas/qt/MenuEntry.h"
 #include "canvas/qt/ScrollBar.h"
@@ -57,12 +59,9 @@ TEST(Form, OnAnOrdinaryDisplayItShowsTheBoxFilteredImage) {
   form.canvas().Scale(-100, 80, 100, -80);
   form.canvas().Circle(0.3, 0.2, 60, red);
   form.canvas().Line(-90, -70, 95, 60, blue);
-  QImage expected(200, 160, QImage::Format_RGB32);
-  boxFilter(form.canvas().image(), expected, expected.rect(), 2);
-  EXPECT_EQ(shown(form), expected);
+  EXPECT_EQ(shown(form), filtered(form.canvas().image(), 2));
   form.canvas().PSet(10, 10, green);
-  boxFilter(form.canvas().image(), expected, expected.rect(), 2);
-  EXPECT_EQ(shown(form), expected);
+  EXPECT_EQ(shown(form), filtered(form.canvas().image(), 2));
 }
 
 TEST(Form, WithoutOversamplingItShowsTheImageItself) {
@@ -146,26 +145,128 @@ TEST(Form, FillsTheDisplayWhenAskedTo) {
   EXPECT_EQ(form.canvas().size(), form.drawingArea()->size());
 }
 
-// What some window managers do to a maximised window that is shown anew.
-TEST(Form, AMaximisedFormThatIsSmallForAnInstantKeepsItsPicture) {
+TEST(Form, AMaximisedFormThatIsHiddenComesBackWholeAndKeepsItsOrdinarySize) {
+  Form form(design);
+  form.Left(300);
+  form.Top(450);
+  form.Width(6000);
+  form.Height(4500);
+  form.Show();
+  QTest::qWait(20);
+  const QRect ordinary = form.geometry();
+  form.fillDisplay();
+  QTest::qWait(20);
+  const QRect whole = form.geometry();
+  ASSERT_NE(whole.size(), ordinary.size());
+  form.area().drawBy([&] {
+    form.canvas().Cls();
+    form.canvas().Line(0, 0, form.canvas().ScaleWidth(), form.canvas().ScaleHeight(), red);
+  });
+  form.area().stale();
+  const QImage before = form.image().copy();
+  form.Hide();
+  form.Show();
+  QTest::qWait(20);
+  EXPECT_TRUE(form.isMaximized());
+  EXPECT_EQ(form.geometry(), whole);
+  EXPECT_EQ(form.image(), before);
+  form.showNormal();
+  QTest::qWait(20);
+  EXPECT_EQ(form.geometry(), ordinary);
+}
+
+TEST(Form, ShowRestoresAMinimisedForm) {
+  Form form(design);
+  form.Show();
+  form.showMinimized();
+  QTest::qWait(20);
+  ASSERT_TRUE(form.isMinimized());
+  form.Show();
+  QTest::qWait(20);
+  EXPECT_FALSE(form.isMinimized());
+  EXPECT_TRUE(form.isVisible());
+  form.showMinimized();
+  form.Hide();
+  form.Show();
+  QTest::qWait(20);
+  EXPECT_FALSE(form.isMinimized());
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST(Form, AMaximisedFormThatIsMinimisedIsRestoredMaximised) {
   Form form(design);
   form.fillDisplay();
   form.Show();
+  form.setWindowState(form.windowState() | Qt::WindowMinimized);
   QTest::qWait(20);
-  const QSize full = form.size();
-  form.canvas().DrawWidth(30);
-  form.canvas().Line(0, 0, form.canvas().ScaleWidth(), form.canvas().ScaleHeight(), red);
-  const QImage before = form.canvas().image().copy();
-  form.Hide();
   form.Show();
-  form.resize(300, 200);
   QTest::qWait(20);
-  form.resize(full);
+  EXPECT_TRUE(form.isMaximized());
+  EXPECT_FALSE(form.isMinimized());
+}
+
+TEST(Form, WritingAPlaceOrASizeMakesAnOrdinaryWindow) {
+  for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowMinimized}) {
+    Form form(design);
+    form.Show();
+    form.setWindowState(state);
+    QTest::qWait(20);
+    form.Top(0);
+    form.Left(0);
+    form.Height(4500);
+    form.Width(4500);
+    form.Show();
+    QTest::qWait(20);
+    EXPECT_EQ(form.windowState() & ~Qt::WindowActive, Qt::WindowNoState);
+    EXPECT_EQ(form.Left(), 0.0);
+    EXPECT_EQ(form.Top(), 0.0);
+    EXPECT_EQ(form.Width(), 4500.0);
+    EXPECT_EQ(form.Height(), 4500.0);
+  }
+}
+
+TEST(Form, HidingKeepsThePlaceAndSizeThatAPersonGave) {
+  Form form(design);
+  form.Left(0);
+  form.Top(0);
+  form.Width(4500);
+  form.Show();
   QTest::qWait(20);
-  EXPECT_EQ(form.canvas().image(), before);
-  form.resize(300, 200);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form.canvas().size() == form.drawingArea()->size(); }));
-  EXPECT_EQ(form.canvas().size().width(), 300);
+  EXPECT_FALSE(form.movedByHand());
+  form.move(120, 90);
+  form.resize(form.size() + QSize(50, 40));
+  QTest::qWait(20);
+  const QRect byHand = form.geometry();
+  EXPECT_TRUE(form.movedByHand());
+  form.Hide();
+  EXPECT_TRUE(form.movedByHand());
+  form.Show();
+  QTest::qWait(20);
+  EXPECT_EQ(form.geometry(), byHand);
+  // Written anew, it stands where it was written.
+  form.Left(0);
+  form.Top(0);
+  EXPECT_EQ(form.Left(), 0.0);
+  EXPECT_FALSE(form.movedByHand());
+}
+
+TEST(Form, ResizesAreToldAtEverySizeBeforeAndAfterInput) {
+  Form form(design);
+  int told = 0;
+  QObject::connect(&form, &Form::Resized, [&] { ++told; });
+  form.resize(400, 300);
+  form.Show();
+  QTest::qWait(20);
+  EXPECT_EQ(told, 1);
+  QTest::mouseClick(form.drawingArea(), Qt::LeftButton);
+  form.resize(500, 300);
+  QTest::qWait(20);
+  EXPECT_EQ(told, 2);
+  EXPECT_EQ(form.canvas().size(), form.drawingArea()->size());
+  form.resize(400, 300);
+  form.move(30, 30);
+  QTest::qWait(20);
+  EXPECT_EQ(told, 3);
 }
 
 struct Mouse {
@@ -185,9 +286,7 @@ TEST(Form, MouseEventsComeInUserUnits) {
   QObject::connect(&form, &Form::MouseMove, into(move));
   QObject::connect(&form, &Form::MouseUp, into(up));
   QWidget* area = form.drawingArea();
-  EXPECT_FALSE(form.hadInput());
   QTest::mousePress(area, Qt::LeftButton, Qt::ShiftModifier, {150, 40});
-  EXPECT_TRUE(form.hadInput());
   QTest::mouseMove(area, {10, 20});
   QTest::mouseRelease(area, Qt::LeftButton, Qt::ControlModifier, {300, -20});
   QTest::mousePress(area, Qt::RightButton, Qt::AltModifier, {0, 0});
@@ -210,6 +309,92 @@ TEST(Form, MouseEventsComeInUserUnits) {
   EXPECT_DOUBLE_EQ(up[0].y, 100.0);
 }
 
+// What a form tells of the mouse, in order.
+struct MouseLog {
+  std::vector<QString> told;
+  explicit MouseLog(Form& form) {
+    const auto tell = [this](const char* what) {
+      return [this, what](int button) {
+        told.push_back(QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(button));
+      };
+    };
+    QObject::connect(&form, &Form::MouseDown, tell("down"));
+    QObject::connect(&form, &Form::MouseMove, tell("move"));
+    QObject::connect(&form, &Form::MouseUp, tell("up"));
+    QObject::connect(&form, &Form::DragEnded, [this] { told.push_back("ended"); });
+  }
+};
+
+void mouse(QWidget& area, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+  QMouseEvent event(type, {20, 20}, area.mapToGlobal(QPointF(20, 20)), button, held, {});
+  QApplication::sendEvent(&area, &event);
+}
+
+TEST(Form, ADragThatSeesItsReleaseIsNotToldToHaveEnded) {
+  Form form(design);
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+  form.Show();
+  form.Hide();
+  EXPECT_THAT(log.told, ::testing::ElementsAre("down 1", "move 1", "up 1", "move 0"));
+}
+
+TEST(Form, ADragEndsWhenTheMouseComesWithoutTheLeftButton) {
+  Form form(design);
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::RightButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+  EXPECT_THAT(log.told, ::testing::ElementsAre("down 1", "ended", "move 2", "move 0"));
+}
+
+TEST(Form, AReleaseAfterTheDragEndedIsNotTold) {
+  Form form(design);
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton);
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+  EXPECT_THAT(log.told,
+              ::testing::ElementsAre("down 1", "ended", "move 0", "up 2", "down 1", "up 1"));
+}
+
+TEST(Form, ASecondPressEndsADragWhoseReleaseWasLost) {
+  Form form(design);
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton);
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  EXPECT_THAT(log.told, ::testing::ElementsAre("down 2", "down 1", "ended", "down 1"));
+}
+
+TEST(Form, ADragEndsWhenABoxOpensOrTheFormIsOutOfSight) {
+  Form form(design);
+  form.Show();
+  MouseLog log(form);
+  QWidget& area = *form.drawingArea();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  QDialog box(&form);
+  box.setModal(true);
+  box.show();
+  EXPECT_THAT(log.told, ::testing::ElementsAre("down 1", "ended"));
+  box.hide();
+  mouse(area, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+  form.Hide();
+  form.Show();
+  mouse(area, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+  EXPECT_THAT(log.told, ::testing::ElementsAre("down 1", "ended", "down 1", "ended", "move 1"));
+}
+
 TEST(Form, APressOnAControlIsNotAPressOnTheDrawing) {
   Form form(design);
   CommandButton button(form, "Command1", {0, 0, 1500, 600});
@@ -219,24 +404,6 @@ TEST(Form, APressOnAControlIsNotAPressOnTheDrawing) {
   QTest::mouseClick(&button, Qt::LeftButton);
   QTest::mouseClick(&button, Qt::RightButton);
   EXPECT_EQ(presses, 0);
-  EXPECT_TRUE(form.hadInput());
-}
-
-TEST(Form, AKeyIsInputToo) {
-  Form form(design);
-  form.Show();
-  QTest::keyClick(&form, Qt::Key_Tab);
-  EXPECT_TRUE(form.hadInput());
-}
-
-TEST(Form, InputToOneFormIsNotInputToAnother) {
-  Form first(design);
-  Form second(design);
-  first.Show();
-  second.Show();
-  QTest::mouseClick(second.drawingArea(), Qt::LeftButton);
-  EXPECT_FALSE(first.hadInput());
-  EXPECT_TRUE(second.hadInput());
 }
 
 TEST(Form, TheCloseBoxIsReportedAndClosesNothing) {

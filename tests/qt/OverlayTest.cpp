@@ -1,7 +1,10 @@
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include <QTest>
 
+#include "canvas/qt/DrawingArea.h"
 #include "canvas/qt/LineControl.h"
 #include "canvas/qt/Shape.h"
 #include "tests/qt/Pictures.h"
@@ -123,6 +126,59 @@ TEST(LineControl, KeepsItsPlaceUnderANewScaleAndItsUnitsUnderAResize) {
   form.clientSize(4500, 3000);
   EXPECT_EQ(line.X1(), x);
   EXPECT_EQ(shown(form).copy(before.rect()), before);
+}
+
+// The drawing area as a display of a pixel ratio shows it.
+QImage shownAt(const Form& form, double ratio) {
+  QImage image((QSizeF(form.drawingArea()->size()) * ratio).toSize(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(ratio);
+  form.drawingArea()->render(&image);
+  image.setDevicePixelRatio(1.0);
+  return image;
+}
+
+TEST(LineControl, OfWholePixelsHasNoSoftEdges) {
+  for (const double ratio : {1.0, 1.5, 2.0}) {
+    for (const int width : {1, 2, 3, 4}) {
+      Form form(design);
+      form.canvas().Scale(0, 0, 200, 160);
+      LineControl line(form, "Line1", {0, 0, 0, 0});
+      line.BorderColor(blue);
+      line.BorderWidth(width);
+      const int solid = std::max(1, int(std::lround(width * ratio)));
+      line.between({100, 20}, {100, 60});
+      QImage picture = shownAt(form, ratio);
+      QRect drawn = extent(picture, blue);
+      EXPECT_EQ(drawn.width(), solid) << width << " at " << ratio;
+      EXPECT_EQ(count(picture, blue), drawn.width() * drawn.height());
+      EXPECT_EQ(count(picture, white), picture.width() * picture.height() - count(picture, blue));
+      EXPECT_NEAR(drawn.left() + solid / 2.0, 100.5 * ratio, 0.51);
+      EXPECT_EQ(drawn.top(), std::floor(20.5 * ratio));
+      EXPECT_EQ(drawn.bottom() + 1, std::ceil(60.5 * ratio));
+      line.between({20, 100}, {60, 100});
+      picture = shownAt(form, ratio);
+      drawn = extent(picture, blue);
+      EXPECT_EQ(drawn.height(), solid) << width << " at " << ratio;
+      EXPECT_EQ(count(picture, white), picture.width() * picture.height() - count(picture, blue));
+      EXPECT_NEAR(drawn.top() + solid / 2.0, 100.5 * ratio, 0.51);
+    }
+  }
+}
+
+TEST(LineControl, AnEvenWidthStandsWhereACanvasLineOfItStands) {
+  Form form(design);
+  form.canvas().setOversampling(1);
+  form.canvas().Scale(0, 0, 200, 160);
+  LineControl line(form, "Line1", {0, 0, 0, 0});
+  line.BorderColor(blue);
+  line.BorderWidth(4);
+  line.between({100, 20}, {100, 60});
+  form.canvas().DrawWidth(4);
+  form.canvas().Line(100, 20, 100, 60, red);
+  const QRect below = extent(form.image(), red);
+  const QRect above = extent(shown(form), blue);
+  EXPECT_EQ(above.left(), below.left());
+  EXPECT_EQ(above.right(), below.right());
 }
 
 TEST(LineControl, OutlivesNothingAndLeavesNothing) {

@@ -36,4 +36,25 @@ inline QRect extent(const QImage& image, Rgb colour) {
   return all;
 }
 
+// The mean, rounded to the nearest, of each k x k pixels.
+inline QImage filtered(const QImage& image, int k) {
+  QImage small(image.size() / k, QImage::Format_RGB32);
+  for (int y = 0; y < small.height(); ++y) {
+    for (int x = 0; x < small.width(); ++x) {
+      int r = 0, g = 0, b = 0;
+      for (int j = 0; j < k; ++j) {
+        for (int i = 0; i < k; ++i) {
+          const QRgb pixel = image.pixel(x * k + i, y * k + j);
+          r += qRed(pixel);
+          g += qGreen(pixel);
+          b += qBlue(pixel);
+        }
+      }
+      const int n = k * k;
+      small.setPixel(x, y, qRgb((r + n / 2) / n, (g + n / 2) / n, (b + n / 2) / n));
+    }
+  }
+  return small;
+}
+
 }  // namespace lensbench

@@ -43,22 +43,53 @@ TEST(Resize, ASizeOfNothingIsOnePixel) {
   canvas.Print("x");
 }
 
-TEST(Resize, OversamplingAndPixelRatioKeepWhatIsThere) {
+TEST(Resize, AnotherOversamplingOrPixelRatioLosesThePicture) {
   RasterCanvas canvas({60, 60});
   canvas.Scale(0, 0, 60, 60);
-  canvas.FillStyle(FillStyle::Solid);
-  canvas.FillColor(red);
+  int lost = 0;
+  QObject::connect(&canvas, &RasterCanvas::pictureLost, [&] { ++lost; });
   canvas.Circle(30, 30, 20, red);
+  canvas.BackColor(green);
   canvas.setOversampling(2);
+  EXPECT_EQ(lost, 1);
   EXPECT_EQ(canvas.image().size(), QSize(120, 120));
-  EXPECT_EQ(colourAt(canvas.image(), 60, 60), red);
-  EXPECT_EQ(colourAt(canvas.image(), 60, 30), red);
-  EXPECT_EQ(colourAt(canvas.image(), 60, 10), white);
+  EXPECT_EQ(count(canvas.image(), green), 120 * 120);
+  canvas.Line(0, 0, 60, 60, red);
   canvas.resize({60, 60}, 2.0);
+  EXPECT_EQ(lost, 2);
   EXPECT_EQ(canvas.image().size(), QSize(240, 240));
-  EXPECT_EQ(colourAt(canvas.image(), 120, 120), red);
+  EXPECT_EQ(count(canvas.image(), green), 240 * 240);
   canvas.PSet(5, 5, blue);
   EXPECT_EQ(extent(canvas.image(), blue), QRect(20, 20, 4, 4));
+}
+
+TEST(Resize, ANewSizeAndANewScaleLoseThePictureAndTheSameOnesDoNot) {
+  RasterCanvas canvas({60, 60});
+  int lost = 0;
+  QObject::connect(&canvas, &RasterCanvas::pictureLost, [&] { ++lost; });
+  canvas.resize({60, 60}, 1.0);
+  canvas.setOversampling(1);
+  EXPECT_EQ(lost, 0);
+  canvas.resize({61, 60}, 1.0);
+  EXPECT_EQ(lost, 1);
+  canvas.Scale(0, 0, 61, 60);
+  EXPECT_EQ(lost, 2);
+  canvas.Scale(0, 0, 61, 60);
+  EXPECT_EQ(lost, 2);
+}
+
+TEST(Resize, PixelsThatAreGivenUpAreThoseOfTheBackground) {
+  RasterCanvas canvas({60, 60}, 1.0, 2);
+  canvas.Line(0, 0, 60 * 15, 60 * 15, red);
+  canvas.BackColor(green);
+  int lost = 0;
+  QObject::connect(&canvas, &RasterCanvas::pictureLost, [&] { ++lost; });
+  canvas.giveUpPixels();
+  EXPECT_EQ(lost, 1);
+  EXPECT_EQ(count(canvas.image(), green), 120 * 120);
+  EXPECT_EQ(canvas.takeDirty(), QRegion(0, 0, 60, 60));
+  canvas.PSet(0, 0, red);
+  EXPECT_EQ(count(canvas.image(), red), 4);
 }
 
 }  // namespace

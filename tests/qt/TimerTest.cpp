@@ -1,55 +1,14 @@
 #include <gtest/gtest.h>
-#include <vector>
 
 #include <QElapsedTimer>
 #include <QTest>
 
 #include "canvas/qt/Form.h"
 #include "canvas/qt/Timer.h"
+#include "tests/support/HandClock.h"
 
 namespace lensbench {
 namespace {
-
-// A clock that a test winds forward; ms.
-class HandClock {
- public:
-  HandClock() {
-    useTickSources([this] { return std::make_unique<Source>(*this); });
-  }
-  ~HandClock() { useTickSources({}); }
-
-  void advance(int ms) {
-    for (int i = 0; i < ms; ++i) {
-      ++now_;
-      for (Source* source : sources_) source->check(now_);
-    }
-  }
-
- private:
-  class Source : public TickSource {
-   public:
-    explicit Source(HandClock& clock) : clock_(clock) { clock_.sources_.push_back(this); }
-    ~Source() override { std::erase(clock_.sources_, this); }
-    void start(int interval) override {
-      interval_ = interval;
-      next_ = clock_.now_ + interval;
-    }
-    void stop() override { interval_ = 0; }
-    void check(int now) {
-      if (interval_ == 0 || now < next_) return;
-      next_ += interval_;
-      onTick();
-    }
-
-   private:
-    HandClock& clock_;
-    int interval_ = 0;
-    int next_ = 0;
-  };
-
-  int now_ = 0;
-  std::vector<Source*> sources_;
-};
 
 class TimerTest : public testing::Test {
  protected:
@@ -59,7 +18,7 @@ class TimerTest : public testing::Test {
 
   HandClock clock;
   Form form{FormDesign{}};
-  Timer timer{form, "Timer1"};
+  Timer timer{form, "Timer1", clock};
   int ticks = 0;
 };
 
@@ -114,11 +73,11 @@ TEST_F(TimerTest, NeverTicksMoreOftenThanADisplayShowsFrames) {
 TEST_F(TimerTest, DoesNotTickWhileTicksAreHeld) {
   timer.Interval(50);
   {
-    const TickHold hold;
+    const TickHold hold(clock);
     clock.advance(1000);
     EXPECT_EQ(ticks, 0);
     {
-      const TickHold inner;
+      const TickHold inner(clock);
       clock.advance(100);
     }
     clock.advance(100);
@@ -137,7 +96,8 @@ TEST_F(TimerTest, AHandlerMayChangeItsOwnTimer) {
 
 TEST(ToolkitTimer, TicksByItself) {
   Form form{FormDesign{}};
-  Timer timer(form, "Timer1");
+  QtClock clock;
+  Timer timer(form, "Timer1", clock);
   int ticks = 0;
   QObject::connect(&timer, &Timer::Tick, [&] { ++ticks; });
   QElapsedTimer elapsed;

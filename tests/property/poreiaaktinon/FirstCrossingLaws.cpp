@@ -2,8 +2,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "optics/Vector.h"
-#include "optics/poreiaaktinon/SurfaceSearch.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Named.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
 
@@ -63,15 +63,15 @@ TEST(FirstCrossingLaws, PointsOfAPathLieOnTheFaces) {
   RandomBench random(12);
   int points = 0;
   for (int ray = 0; points < 2 * lawRays && ray < 40 * lawRays; ++ray) {
-    const OpticalSetup setup = random.setup();
-    const RayPath path = tracePath(setup, random.source(), random.direction());
+    const Bench setup = random.bench();
+    const light::RayPath path = traced(setup, random.source(), random.direction());
     const Point centre1{setup.fakos.xc1, 0.0};
     const Point centre2{setup.fakos.xc2, 0.0};
-    for (std::size_t i = 0; i + 1 < static_cast<std::size_t>(path.pieces); ++i) {
-      const double off1 = length(path.points[i + 1] - centre1) - setup.fakos.R1;
-      const double off2 = length(path.points[i + 1] - centre2) - setup.fakos.R2;
-      ASSERT_NEAR(path.faces[i] == Face::Right ? off1 : off2, 0.0, 1e-9);
-      ASSERT_LT(path.faces[i] == Face::Right ? off2 : off1, 1e-9);
+    for (std::size_t i = 0; i + 1 < static_cast<std::size_t>(path.count); ++i) {
+      const double off1 = length(path.pieces[i].to - centre1) - setup.fakos.R1;
+      const double off2 = length(path.pieces[i].to - centre2) - setup.fakos.R2;
+      ASSERT_NEAR(path.meetings[i].face == light::Side::Right ? off1 : off2, 0.0, 1e-9);
+      ASSERT_LT(path.meetings[i].face == light::Side::Right ? off2 : off1, 1e-9);
       ++points;
     }
   }

@@ -5,21 +5,31 @@
 #include <numbers>
 #include <vector>
 
-#include "optics/Vector.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/Tracing.h"
-#include "optics/poreiaaktinon/Wavefront.h"
+#include "canvas/Recording.h"
+#include "optics/light/OpticalPath.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/RayDrawing.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
+
+using light::Ending;
+using light::opticalLength;
+using light::pointAtOpticalPath;
+using light::RayPath;
+using light::Side;
 
 // Well outside one of the circles at least, and so outside the lens: rays from there start in air.
 bool inAir(const Fakos& fakos, Point p) {
   return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
          length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
+}
+
+bool sameFaces(const RayPath& one, const RayPath& other) {
+  return one.count == other.count && one.meetings[0].face == other.meetings[0].face &&
+         one.meetings[1].face == other.meetings[1].face;
 }
 
 bool wellConditioned(const IndependentTrace& trace) { return trace.smallestCosine > 1e-3L; }
@@ -28,12 +38,12 @@ TEST(FrontLaws, PointAtAnOpticalPathAgreesWithASecondTracer) {
   RandomBench random(21);
   int throughGlass = 0;
   for (int ray = 0; throughGlass < lawRays && ray < 60 * lawRays; ++ray) {
-    const OpticalSetup setup = random.setup();
+    const Bench setup = random.bench();
     const Point source = random.source();
     if (!inAir(setup.fakos, source)) continue;
     const double angle = random.real(-3.2, 3.2);
-    const RayPath path = tracePath(setup, source, {std::cos(angle), std::sin(angle)});
-    if (path.faces[0] == Face::None) continue;
+    const RayPath path = traced(setup, source, {std::cos(angle), std::sin(angle)});
+    if (path.meetings[0].face == Side::None) continue;
     const IndependentTrace trace = traceIndependently(setup.fakos, setup.n, source, angle);
     if (!wellConditioned(trace)) continue;
     ++throughGlass;
@@ -49,11 +59,11 @@ TEST(FrontLaws, PointAtAnOpticalPathAgreesWithASecondTracer) {
 
 TEST(FrontLaws, DrawnDotsOfAFanStandAtWholeTensFromTheSource) {
   RandomBench random(22);
-  RecordingCanvas canvas(768.0, 432.0);
+  Recording canvas(768.0, 432.0);
   canvas.Scale(-384.0, 216.0, 384.0, -216.0);
   int dots = 0;
   for (int fan = 0; fan < 300; ++fan) {
-    const OpticalSetup setup = random.setup();
+    const Bench setup = random.bench();
     const Point source = random.source();
     if (!inAir(setup.fakos, source)) continue;
     for (int k = 0; k < 72; ++k) {
@@ -61,7 +71,7 @@ TEST(FrontLaws, DrawnDotsOfAFanStandAtWholeTensFromTheSource) {
       const IndependentTrace trace = traceIndependently(setup.fakos, setup.n, source, angle);
       if (!wellConditioned(trace)) continue;
       canvas.forget();
-      drawWavePoints(canvas, tracePath(setup, source, {std::cos(angle), std::sin(angle)}));
+      drawWavePoints(canvas, traced(setup, source, {std::cos(angle), std::sin(angle)}));
       // Rays may leave the drawing area and come back, so the count is found from the dot.
       std::vector<Point> tens;
       for (int step = 0; step < 400; ++step) tens.push_back(pointOn(trace, 10.0L * step));
@@ -81,13 +91,16 @@ TEST(FrontLaws, FrontsOfABundleAreSquareToItsRaysBeforeTheLens) {
   RandomBench random(23);
   int points = 0;
   for (int bundle = 0; bundle < 2000; ++bundle) {
-    const OpticalSetup setup = random.setup();
+    const Bench setup = random.bench();
     const double angle = random.real(-1.4, 1.4);
     const Point direction{std::cos(angle), std::sin(angle)};
     const double L = random.real(0.0, 500.0);
-    for (const RayPath& path : bundlePaths(setup, angle, 100)) {
+    for (const RayPath& path : *send(setup, Desmi{angle, 100}, RandomBench::edges).paths) {
       const auto front = pointAtOpticalPath(path, L);
-      if (!front || front->region != Region::BeforeLens) continue;
+      if (!front || path.pieces[0].medium != light::Medium::Air ||
+          front->crossed != light::FacesCrossed{}) {
+        continue;
+      }
       ASSERT_NEAR(dot(front->position - Point{-200.0, 0.0}, direction), L, 1e-9);
       ++points;
     }
@@ -101,22 +114,23 @@ TEST(FrontLaws, FrontsAreSquareToTheirRaysBehindTheLens) {
   constexpr double apart = 1e-6;
   int pairs = 0;
   for (int i = 0; pairs < lawRays / 2 && i < 40 * lawRays; ++i) {
-    const OpticalSetup setup = random.setup();
+    const Bench setup = random.bench();
     const Point source = random.source();
     const double angle = random.real(-3.2, 3.2);
-    const auto ray = [&](double a) { return tracePath(setup, source, {std::cos(a), std::sin(a)}); };
+    const auto ray = [&](double a) { return traced(setup, source, {std::cos(a), std::sin(a)}); };
     const RayPath middle = ray(angle);
     const RayPath one = ray(angle - apart);
     const RayPath two = ray(angle + apart);
-    if (middle.pieces != 3 || one.faces != middle.faces || two.faces != middle.faces) continue;
+    if (middle.count != 3 || !sameFaces(one, middle) || !sameFaces(two, middle)) continue;
     if (traceIndependently(setup.fakos, setup.n, source, angle).smallestCosine < 0.1L) continue;
-    const double L = opticalLength(middle, 0) + opticalLength(middle, 1) + 20.0;
+    const double L =
+        opticalLength(middle, middle.pieces[0]) + opticalLength(middle, middle.pieces[1]) + 20.0;
     const auto a = pointAtOpticalPath(one, L);
     const auto b = pointAtOpticalPath(two, L);
-    if (!a || !b || a->region != Region::BehindLens || b->region != Region::BehindLens) continue;
+    if (!a || !b || a->crossed[1] == Side::None || b->crossed[1] == Side::None) continue;
     ++pairs;
     const Point piece = b->position - a->position;
-    ASSERT_LT(std::fabs(dot(piece, middle.directions[2])), 1e-12 + 1e-5 * length(piece));
+    ASSERT_LT(std::fabs(dot(piece, middle.pieces[2].direction)), 1e-12 + 1e-5 * length(piece));
   }
   EXPECT_EQ(pairs, lawRays / 2);
 }

@@ -3,11 +3,9 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "optics/poreiaaktinon/DrawingArea.h"
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/Faces.h"
-#include "optics/poreiaaktinon/Geometry.h"
-#include "optics/poreiaaktinon/Intersection.h"
-#include "tests/support/RecordingCanvas.h"
+#include "optics/poreiaaktinon/Named.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -66,7 +64,7 @@ RC_GTEST_PROP(GeometryLaws, ALineMeetsACircleOnBoth, ()) {
 }
 
 RC_GTEST_PROP(GeometryLaws, ARayFromWithinLeavesOnTheFrame, ()) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.Scale(-400.0, 200.0, 400.0, -200.0);
   const double x0 = *rc::gen::inRange(-399, 400);
   const double y0 = *rc::gen::inRange(-199, 200);
@@ -74,7 +72,7 @@ RC_GTEST_PROP(GeometryLaws, ARayFromWithinLeavesOnTheFrame, ()) {
   const double dy = *rc::gen::inRange(-50, 51);
   RC_PRE(dx != 0.0 || dy != 0.0);
   const SinglePair p = orioothonis(canvas, x0, y0, dx, dy);
-  const Point q = leavingPoint(edgesOf(canvas), {x0, y0}, {dx, dy});
+  const Point q = light::leavingPoint(light::edgesOf(canvas), {x0, y0}, {dx, dy});
   RC_ASSERT(std::fabs(p.x - q.x) < 1e-4);
   RC_ASSERT(std::fabs(p.y - q.y) < 1e-4);
   RC_ASSERT(std::fabs(q.x) <= 400.0 + 1e-9);

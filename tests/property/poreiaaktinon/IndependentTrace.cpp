@@ -10,9 +10,9 @@ long double square(long double v) { return v * v; }
 
 }  // namespace
 
-std::optional<Meeting> firstMeeting(const Fakos& fakos, long double px, long double py,
-                                    long double dx, long double dy, long double beyond) {
-  std::optional<Meeting> nearest;
+std::optional<IndependentMeeting> firstMeeting(const Fakos& fakos, long double px, long double py,
+                                               long double dx, long double dy, long double beyond) {
+  std::optional<IndependentMeeting> nearest;
   for (const bool first : {true, false}) {
     const long double c = first ? fakos.xc1 : fakos.xc2;
     const long double r = first ? fakos.R1 : fakos.R2;
@@ -26,7 +26,7 @@ std::optional<Meeting> firstMeeting(const Fakos& fakos, long double px, long dou
       const long double x = px + t * dx;
       const long double y = py + t * dy;
       if (t <= beyond || square(x - other) + square(y) > square(otherR)) continue;
-      if (!nearest || t < nearest->t) nearest = Meeting{x, y, t, first, root};
+      if (!nearest || t < nearest->t) nearest = IndependentMeeting{x, y, t, first, root};
     }
   }
   return nearest;

@@ -4,11 +4,11 @@
 #include <optional>
 #include <vector>
 
-#include "optics/poreiaaktinon/RayPath.h"
+#include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::poreiaaktinon {
 
-struct Meeting {
+struct IndependentMeeting {
   long double x = 0.0L;
   long double y = 0.0L;
   long double t = 0.0L;          // distance from the start
@@ -17,8 +17,8 @@ struct Meeting {
 };
 
 // The nearest point ahead of the start where the ray's line meets a circle inside the other one.
-std::optional<Meeting> firstMeeting(const Fakos& fakos, long double px, long double py,
-                                    long double dx, long double dy, long double beyond);
+std::optional<IndependentMeeting> firstMeeting(const Fakos& fakos, long double px, long double py,
+                                               long double dx, long double dy, long double beyond);
 
 struct Leg {
   long double x, y;   // where it starts

@@ -5,7 +5,8 @@
 #include <numbers>
 #include <random>
 
-#include "optics/poreiaaktinon/RayPath.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Rays.h"
 
 namespace lensbench::poreiaaktinon {
 
@@ -36,14 +37,20 @@ class RandomBench {
     return {std::cos(angle), std::sin(angle)};
   }
   // No diaphragm: the ray runs until it ends by itself.
-  OpticalSetup setup() { return {lens(), index(), std::nullopt, edges}; }
+  Bench bench() { return {lens(), index(), std::nullopt}; }
 
-  static constexpr Edges edges{-384.0, 384.0, -216.0, 216.0};
+  static constexpr light::Edges edges{-384.0, 384.0, -216.0, 216.0};
 
  private:
   std::mt19937 engine_;
 };
 
 constexpr int lawRays = 100000;
+
+// One ray to the edges of the random sources.
+inline light::RayPath traced(const Bench& bench, Point start, Point direction) {
+  return light::trace(lensOf(bench), {start, unit(direction)},
+                      conditionsOf(bench, RandomBench::edges));
+}
 
 }  // namespace lensbench::poreiaaktinon

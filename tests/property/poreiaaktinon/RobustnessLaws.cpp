@@ -4,12 +4,9 @@
 #include <gtest/gtest.h>
 #include <numbers>
 
-#include "optics/Vector.h"
-#include "optics/poreiaaktinon/Bundles.h"
-#include "optics/poreiaaktinon/CardinalPoints.h"
-#include "optics/poreiaaktinon/Faces.h"
-#include "optics/poreiaaktinon/SurfaceSearch.h"
-#include "optics/poreiaaktinon/Tracing.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Named.h"
+#include "optics/poreiaaktinon/Picture.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
@@ -40,17 +37,28 @@ Fakos anyLens(RandomBench& random) {
 
 bool finite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-bool finite(const RayPath& path) {
-  const auto pieces = static_cast<std::size_t>(path.pieces);
-  for (std::size_t i = 0; i <= pieces; ++i) {
-    if (!finite(path.points[i])) return false;
-  }
-  for (std::size_t i = 0; i < pieces; ++i) {
-    if (!finite(path.directions[i]) || std::fabs(length(path.directions[i]) - 1.0) > 1e-9) {
+bool finite(const light::RayPath& path) {
+  for (const light::Piece& piece : path.way()) {
+    if (!finite(piece.from) || !finite(piece.to) || !finite(piece.direction) ||
+        std::fabs(length(piece.direction) - 1.0) > 1e-9) {
       return false;
     }
   }
   return std::isfinite(path.phase);
+}
+
+// Everything that a workbench can show.
+void drawPictures(FakeWorkbench& bench, RandomBench& random) {
+  const Sent fan = send(bench.bench(), Fan{bench.source, bench.step}, testEdges);
+  const Shown still{{LensScene{bench.lens, bench.n, bench.source}, Light{fan, bench.shown},
+                     CardinalMarks{bench.lens, bench.n, bench.source}}};
+  const Sent waves = send(bench.bench(), Desmi{random.real(-1.5, 1.5), 20}, testEdges);
+  const WaveScene white{bench.lens, bench.n};
+  const int step = random.whole(1, 240);
+  const Shown moving{{white, Fronts{waves, step}}};
+  draw(bench.surface, still);
+  redraw(bench.surface, still, moving);
+  redraw(bench.surface, moving, {{white, Fronts{waves, step + 1}}});
 }
 
 TEST(RobustnessLaws, AnyWorkbenchIsDrawnWithoutAnError) {
@@ -70,14 +78,7 @@ TEST(RobustnessLaws, AnyWorkbenchIsDrawnWithoutAnError) {
       sxediasitoxou1(f.xc1, f.R1, f.xc2, f.R2, 0, 0);
       sxediasitoxou2(f.xc1, f.R1, f.xc2, f.R2, 0, 0, 0);
       bentaliaaktinon(f.xc1, f.xc2, f.R1, f.R2, bench.source.x, bench.source.y);
-      if (hasCardinalPoints(f, bench.n)) {
-        const CardinalPoints points = cardinalPoints(f, bench.n);
-        drawCardinalMarks(bench.surface, points);
-        if (canConstruct(points, bench.source)) {
-          drawConstruction(bench.surface, points, bench.source);
-        }
-        drawCardinalLabels(bench.surface, points);
-      }
+      drawPictures(bench, random);
     }) << f.xc1
        << " " << f.R1 << " " << f.xc2 << " " << f.R2 << " n=" << bench.n;
   }
@@ -92,12 +93,12 @@ TEST(RobustnessLaws, BundlesAtAnyAngleStayFiniteAndDraw) {
     bench.n = random.index();
     bench.opening = anyDiaphragm(random);
     const double degrees = i % 4 == 0 ? 90.0 * random.whole(-8, 8) : random.real(-360.0, 360.0);
-    const auto paths =
-        bundlePaths(setupOf(bench), degrees * std::numbers::pi / 180.0, random.whole(2, 40));
+    const Desmi desmi{degrees * std::numbers::pi / 180.0, random.whole(2, 40)};
+    const Sent sent = send(bench.bench(), desmi, testEdges);
     bench.surface.forget();
-    for (const RayPath& path : paths) ASSERT_TRUE(finite(path)) << degrees;
-    ASSERT_NO_THROW(drawPaths(bench.surface, paths, bench.shown)) << degrees;
-    ASSERT_LT(bench.surface.operations().size(), paths.size() * 1000);
+    for (const light::RayPath& path : *sent.paths) ASSERT_TRUE(finite(path)) << degrees;
+    ASSERT_NO_THROW(draw(bench.surface, {{Light{sent, bench.shown}}})) << degrees;
+    ASSERT_LT(bench.surface.operations().size(), sent.paths->size() * 1000);
   }
 }
 
@@ -131,7 +132,7 @@ TEST(RobustnessLaws, AnySingleRayIsTracedAndDrawnWithoutAnError) {
     ASSERT_TRUE(finite(Point{meeting.x, meeting.y})) << i;
     ASSERT_TRUE(meeting.found != 0 || (meeting.x == p.x && meeting.y == p.y)) << i;
     throughTheLens += meeting.found != 0 ? 1 : 0;
-    ASSERT_TRUE(finite(tracePath({f, n, bench.opening, testEdges}, p, d))) << i;
+    ASSERT_TRUE(finite(tracePath({f, n, bench.opening}, p, d))) << i;
     ASSERT_GE(bench.surface.operations(Operation::Kind::Line).size(), 2u) << i;
     ASSERT_LT(bench.surface.operations().size(), 1000u) << i;
   }

@@ -16,10 +16,10 @@ TEST(Focus, AxialBundleMeetsInTheFarFocusWithEqualOpticalPath) {
   for (int i = 0; i < lawRays; ++i) {
     const double n = random.index();
     const auto [a, b, c] = *deriveLens(n);
-    const Glass glass = planoConvex(a, b, n);
+    const light::Lens glass = planoConvex(a, b, n);
     const double y = random.between(-1, 1) * rimHalfHeight(b);
-    const RayPath path = trace(glass, rayWithSlope({130, y}, 0, Travel::Left), wideOpen);
-    if (path.ending != Ending::Emerged) {
+    const Way path = wayThrough(glass, rayWithSlope({130, y}, 0, Travel::Left), wideOpen);
+    if (path.ending != End::Emerged) {
       // Only where the lens is thinner than can be told from nothing.
       ASSERT_GT(std::fabs(y), rimHalfHeight(b) * (1 - 1e-8));
       continue;
@@ -44,10 +44,10 @@ TEST(Focus, SourceAtTheFarFocusGivesParallelRaysInside) {
   while (entered < lawRays) {
     const double n = random.index();
     const auto [a, b, c] = *deriveLens(n);
-    const Glass glass = random.glass(n);
-    const RayPath path =
-        trace(glass, rayWithSlope({-c, 0}, random.between(-1.2, 1.2), Travel::Right), wideOpen);
-    if (path.ending == Ending::Missed || !path.entryNormal) continue;
+    const light::Lens glass = random.glass(n);
+    const Way path = wayThrough(
+        glass, rayWithSlope({-c, 0}, random.between(-1.2, 1.2), Travel::Right), wideOpen);
+    if (path.ending == End::Missed || !path.entryNormal) continue;
     ++entered;
     error.meet(path.inside.y);
   }
@@ -62,15 +62,15 @@ TEST(Focus, BiconvexImagesOneFarFocusOnTheOtherAndBack) {
   while (imaged < lawRays) {
     const double n = random.index();
     const auto [a, b, c] = *deriveLens(n);
-    const Glass glass = biconvex(a, b, n);
+    const light::Lens glass = biconvex(a, b, n);
     const bool back = imaged % 2 == 1;
     const Point near{8 * a + c, 0}, far{-c, 0};
-    const Ray ray = back ? rayWithSlope(far, random.between(-1.2, 1.2), Travel::Right)
-                         : rayWithSlope(near, random.between(-1.2, 1.2), Travel::Left);
-    const RayPath path = trace(glass, ray, wideOpen);
-    if (path.ending == Ending::Missed) continue;
+    const light::Ray ray = back ? rayWithSlope(far, random.between(-1.2, 1.2), Travel::Right)
+                                : rayWithSlope(near, random.between(-1.2, 1.2), Travel::Left);
+    const Way path = wayThrough(glass, ray, wideOpen);
+    if (path.ending == End::Missed) continue;
     ++imaged;
-    ASSERT_EQ(path.ending, Ending::Emerged);
+    ASSERT_EQ(path.ending, End::Emerged);
     const Point image = back ? near : far;
     miss.meet(missDistance(path.exit, path.emerging, image));
     const double whole = length(path.entry - ray.start) + n * length(path.exit - path.entry) +

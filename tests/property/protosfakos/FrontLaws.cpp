@@ -3,7 +3,7 @@
 #include <numbers>
 
 #include "tests/property/protosfakos/RandomRays.h"
-#include "tests/unit/protosfakos/FakeSahlScreen.h"
+#include "tests/unit/protosfakos/SahlBench.h"
 
 namespace lensbench::protosfakos {
 namespace {
@@ -12,7 +12,7 @@ double distance(Point p, Point q) { return length(q - p); }
 
 // The optical path from the start to a point on the ray, told from where it lies. start is the
 // point on the ray at path 0.
-double opticalPath(const RayPath& path, Point start, double n, Point p) {
+double opticalPath(const Way& path, Point start, double n, Point p) {
   const double before = distance(start, path.entry);
   const double inside = n * distance(path.entry, path.exit);
   if (distance(start, p) + distance(p, path.entry) < before + 1e-9) return distance(start, p);
@@ -22,16 +22,13 @@ double opticalPath(const RayPath& path, Point start, double n, Point p) {
   return before + inside + distance(path.exit, p);
 }
 
-Point wavePoint(int ray, int front) {
-  return {state().kymataX[ray][front].value(), state().kymataY[ray][front].value()};
-}
-
 // Takes the errors of the points of one recorded ray: in optical path from start, and, behind the
 // lens, in the distance from the ray.
-void meetPoints(const RayPath& path, Point start, double n, int ray, Largest& error, Largest& off) {
+void meetPoints(const Way& path, Point start, double n, const Recorded& ray, Largest& error,
+                Largest& off) {
   const double through = distance(start, path.entry) + n * distance(path.entry, path.exit);
   for (int j = 1; j <= 30; ++j) {
-    const Point p = wavePoint(ray, j);
+    const Point p = ray.kymata[static_cast<std::size_t>(j)];
     const double length = 4.0 * (j - 1);
     error.meet(opticalPath(path, start, n, p) - length);
     if (distance(path.exit, p) > 1e-9 && dot(p - path.exit, path.emerging) > 0 &&
@@ -48,18 +45,18 @@ TEST(Fronts, PointsOfOneFrontHaveEqualOpticalPath) {
   while (rays < lawRays) {
     const double n = random.index();
     SahlBench bench(n);
-    bench.screen.rays = true;
+    bench.asked.onlyRays = true;
     const bool amfikyrtos = rays % 2 == 0;
     const Point source{random.between(-120, 150), random.between(-60, 60)};
     bench.fan(amfikyrtos, source.x, source.y);
-    const Glass glass = (amfikyrtos ? biconvex : planoConvex)(12, bench.lens.b, n);
+    const light::Lens glass = (amfikyrtos ? biconvex : planoConvex)(12, bench.lens.b, n);
     int recorded = 0;
     for (int i = 0; i <= 60; ++i) {
-      const Ray ray =
+      const light::Ray ray =
           rayWithSlope(source, (90 - 3 * i) / 100.0, source.x < 12 ? Travel::Right : Travel::Left);
-      const RayPath path = trace(glass, ray, wideOpen);
-      if (path.ending != Ending::Emerged) continue;
-      meetPoints(path, source, n, recorded++, error, off);
+      const Way path = wayThrough(glass, ray, wideOpen);
+      if (path.ending != End::Emerged) continue;
+      meetPoints(path, source, n, bench.ray(recorded++), error, off);
     }
     ASSERT_EQ(recorded, bench.recorded());
     rays += 61;
@@ -75,19 +72,20 @@ TEST(Fronts, OfABundleHaveEqualOpticalPathFromThePlaneAlsoInAndBehindTheGlass) {
   int rays = 0, behind = 0;
   for (const bool amfikyrtos : {false, true}) {
     for (const double n : {1.01, 1.33, 1.5, 2.5}) {
-      const Glass glass = (amfikyrtos ? biconvex : planoConvex)(12, deriveLens(n)->b, n);
+      const light::Lens glass = (amfikyrtos ? biconvex : planoConvex)(12, deriveLens(n)->b, n);
       for (int degrees = -89; degrees <= 89; ++degrees) {
         SahlBench bench(n);
         const double slope = std::tan(std::numbers::pi * degrees / 180);
         bench.bundle(amfikyrtos, slope);
         int recorded = 0;
         for (int y = 100; y >= -100; y -= amfikyrtos ? 1 : 2) {
-          const Ray ray = rayWithSlope({130.0, static_cast<double>(y)}, slope, Travel::Left);
-          const RayPath path = trace(glass, ray, wideOpen);
-          if (path.ending != Ending::Emerged) continue;
+          const light::Ray ray = rayWithSlope({130.0, static_cast<double>(y)}, slope, Travel::Left);
+          const Way path = wayThrough(glass, ray, wideOpen);
+          if (path.ending != End::Emerged) continue;
           const double beforeEntry = dot(path.entry - Point{130, 0}, ray.direction);
           behind += beforeEntry < 0.0;
-          meetPoints(path, path.entry - beforeEntry * ray.direction, n, recorded++, error, off);
+          meetPoints(path, path.entry - beforeEntry * ray.direction, n, bench.ray(recorded++),
+                     error, off);
         }
         ASSERT_EQ(recorded, bench.recorded());
         rays += recorded;
@@ -114,16 +112,15 @@ TEST(Fronts, OfABundleAreSquareToItsRaysBeforeTheLens) {
         bench.bundle(amfikyrtos, slope);
         const Point along = rayWithSlope({}, slope, Travel::Left).direction;
         const auto isBefore = [&](int ray, int front) {
-          const Point entry{state().entryX[ray].value(), state().entryY[ray].value()};
-          return dot(entry - wavePoint(ray, front), along) > 1e-9;
+          return dot(bench.ray(ray).entry - bench.kymata(ray, front), along) > 1e-9;
         };
         for (int i = 1; i < bench.recorded(); ++i) {
           for (int j = 1; j <= 30; ++j) {
             if (!isBefore(i, j) || !isBefore(i - 1, j)) continue;
             ++pairs;
-            error.meet(dot(wavePoint(i, j) - wavePoint(i - 1, j), along));
+            error.meet(dot(bench.kymata(i, j) - bench.kymata(i - 1, j), along));
             // And 4 behind the front before it, counted from the plane through (130, 0).
-            error.meet(dot(wavePoint(i, j) - Point{130, 0}, along) - 4.0 * (j - 1));
+            error.meet(dot(bench.kymata(i, j) - Point{130, 0}, along) - 4.0 * (j - 1));
           }
         }
       }

@@ -92,7 +92,7 @@ bool inGlass(const Lens& lens, V p) {
 }
 
 struct Expected {
-  Ending ending = Ending::Missed;
+  End ending = End::Missed;
   V entry, inside, exit, emerging;
   // How nearly a ray grazes a face or the critical angle: there errors are magnified without bound
   // and the last digit decides how the ray ends.
@@ -113,7 +113,7 @@ Expected construct(const Lens& lens, V p, V d) {
     e.inside = bent(d, hit->normal, 1 / lens.n).value();
   }
   const auto hit = nearestAhead(lens, e.entry, e.inside, 1e-8L);
-  e.ending = Ending::Trapped;
+  e.ending = End::Trapped;
   if (!hit) {
     e.margin = 0;
     return e;
@@ -127,7 +127,7 @@ Expected construct(const Lens& lens, V p, V d) {
   const Real sine = lens.n * std::sqrt(1 - cosine * cosine);
   e.margin = std::min(e.margin, std::fabs(1 - sine));
   const auto out = bent(e.inside, hit->normal, lens.n);
-  e.ending = out ? Ending::Emerged : Ending::TotalReflection;
+  e.ending = out ? End::Emerged : End::TotalReflection;
   if (out) e.emerging = *out;
   return e;
 }
@@ -142,12 +142,12 @@ TEST(IndependentPath, AgreesForRaysThroughBothLenses) {
   int compared = 0, emerged = 0, skipped = 0, endings[5] = {};
   while (compared < 2 * lawRays) {
     const double n = random.index();
-    const Glass glass = random.glass(n);
-    const Ray ray = random.ray(glass);
-    const Lens lens{glass.a, glass.b, n, std::holds_alternative<HyperbolicFace>(glass.faces[1])};
+    const light::Lens glass = random.glass(n);
+    const light::Ray ray = random.ray(glass);
+    const Lens lens{semiAxis, bOf(glass), n, isBiconvex(glass)};
     const Expected expected =
         construct(lens, {ray.start.x, ray.start.y}, {ray.direction.x, ray.direction.y});
-    const RayPath path = trace(glass, ray, wideOpen);
+    const Way path = wayThrough(glass, ray, wideOpen);
     if (expected.margin < 1e-4L) {
       ++skipped;
       continue;
@@ -157,11 +157,11 @@ TEST(IndependentPath, AgreesForRaysThroughBothLenses) {
     ASSERT_EQ(path.ending, expected.ending)
         << n << " from " << ray.start.x << ' ' << ray.start.y << " along " << ray.direction.x << ' '
         << ray.direction.y << " margin " << static_cast<double>(expected.margin);
-    if (path.ending == Ending::Missed) continue;
+    if (path.ending == End::Missed) continue;
     points.meet(apart(expected.entry, path.entry));
     points.meet(apart(expected.exit, path.exit));
     directions.meet(apart(expected.inside, path.inside));
-    if (path.ending != Ending::Emerged) continue;
+    if (path.ending != End::Emerged) continue;
     ++emerged;
     directions.meet(apart(expected.emerging, path.emerging));
   }
@@ -169,7 +169,7 @@ TEST(IndependentPath, AgreesForRaysThroughBothLenses) {
   EXPECT_LT(directions.value, 1e-9);
   EXPECT_GT(emerged, lawRays / 2);
   EXPECT_LT(skipped, lawRays / 50);
-  for (const Ending ending : {Ending::TotalReflection, Ending::Trapped, Ending::Missed}) {
+  for (const End ending : {End::TotalReflection, End::Trapped, End::Missed}) {
     EXPECT_GT(endings[static_cast<int>(ending)], 100) << static_cast<int>(ending);
   }
   RecordProperty("points", std::to_string(points.value * 1e12) + "e-12");

@@ -6,12 +6,11 @@
 #include <random>
 
 #include "optics/protosfakos/Hyperbola.h"
-#include "optics/protosfakos/RayPath.h"
+#include "tests/unit/protosfakos/Way.h"
 
 namespace lensbench::protosfakos {
 
 constexpr int lawRays = 100'000;
-constexpr Diafragma wideOpen{130.0, 1e9, -1e9};
 
 class RandomRays {
  public:
@@ -22,16 +21,16 @@ class RandomRays {
   }
   double index() { return between(1.01, 2.5); }
   // Either lens, in turn.
-  Glass glass(double n) {
+  light::Lens glass(double n) {
     biconvex_ = !biconvex_;
     const double b = deriveLens(n)->b;
     return biconvex_ ? biconvex(12, b, n) : planoConvex(12, b, n);
   }
   // From the screen towards a point in or near the lens, to the side on which the lens is; from
   // within the lens either way.
-  Ray ray(const Glass& glass) {
+  light::Ray ray(const light::Lens& glass) {
     const Point start{between(-120, 150), between(-120, 120)};
-    const double rim = rimHalfHeight(glass.b);
+    const double rim = rimHalfHeight(bOf(glass));
     const Point aim{between(12, 84), between(-rim, rim)};
     const Point way = aim - start;
     return {start, (1.0 / length(way)) * way};

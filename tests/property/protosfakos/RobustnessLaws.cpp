@@ -6,14 +6,14 @@
 #include <vector>
 
 #include "tests/property/protosfakos/RandomRays.h"
-#include "tests/unit/protosfakos/FakeSahlScreen.h"
+#include "tests/unit/protosfakos/SahlBench.h"
 
 namespace lensbench::protosfakos {
 namespace {
 
 bool finite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-bool finite(const RayPath& path) {
+bool finite(const Way& path) {
   return finite(path.incident.direction) && finite(path.stop) && finite(path.entry) &&
          finite(path.inside) && finite(path.exit) && finite(path.emerging) &&
          finite(path.entryNormal.value_or(Point{})) && finite(path.exitNormal.value_or(Point{}));
@@ -22,11 +22,11 @@ bool finite(const RayPath& path) {
 // A recording canvas refuses what is not finite, so drawing a scene is the test.
 void drawEverything(double n, Point source, const Diafragma& opening) {
   SahlBench bench(n);
-  bench.screen.opening = opening;
+  bench.asked.diafragma = opening;
   for (const bool amfikyrtos : {false, true}) {
     ASSERT_NO_THROW(bench.fan(amfikyrtos, source.x, source.y))
         << n << ' ' << source.x << ' ' << source.y;
-    bench.screen.recording.forget();
+    bench.recording.forget();
   }
 }
 
@@ -85,10 +85,10 @@ TEST(Robustness, BundlesAtEveryAngle) {
       const double slope = std::tan(std::numbers::pi * degrees / 180);
       for (const Diafragma& opening : {Diafragma{130, 10, -10}, Diafragma{100, 0, 0},
                                        Diafragma{-50, 3, -3}, Diafragma{140, 3, -3}}) {
-        bench.screen.opening = opening;
+        bench.asked.diafragma = opening;
         for (const bool amfikyrtos : {false, true}) {
           ASSERT_NO_THROW(bench.bundle(amfikyrtos, slope)) << n << ' ' << degrees;
-          bench.screen.recording.forget();
+          bench.recording.forget();
         }
       }
     }
@@ -97,7 +97,7 @@ TEST(Robustness, BundlesAtEveryAngle) {
 
 TEST(Robustness, SlopesOfEverySize) {
   SahlBench bench(1.5);
-  bench.screen.opening = {100, 10, -10};
+  bench.asked.diafragma = {100, 10, -10};
   for (const double slope : {1e-300, 1e16, -1.633123935319537e16, 1e100, -1e200, 1e300}) {
     for (const bool amfikyrtos : {false, true}) {
       EXPECT_NO_THROW(bench.bundle(amfikyrtos, slope)) << slope;
@@ -120,15 +120,16 @@ TEST(Robustness, EveryPathIsFinite) {
     };
     const double n = hundredths(1, 3);
     const double b = deriveLens(n)->b;
-    const Glass glass = *rc::gen::arbitrary<bool>() ? biconvex(12, b, n) : planoConvex(12, b, n);
+    const light::Lens glass =
+        *rc::gen::arbitrary<bool>() ? biconvex(12, b, n) : planoConvex(12, b, n);
     const Point start{hundredths(-120, 150), hundredths(-120, 120)};
     const double slope = *rc::gen::element(hundredths(-5, 5), 1.6e16, -1.6e16, b / 12, -b / 12);
     const Travel travel = *rc::gen::element(Travel::Left, Travel::Right);
     const Diafragma opening{hundredths(-120, 150), hundredths(0, 120), -hundredths(0, 120)};
-    const RayPath path = trace(glass, rayWithSlope(start, slope, travel), opening);
+    const Way path = wayThrough(glass, rayWithSlope(start, slope, travel), opening);
     RC_ASSERT(finite(path));
     // What a ray meets is on the lens.
-    if (path.ending != Ending::Missed && path.ending != Ending::Stopped) {
+    if (path.ending != End::Missed && path.ending != End::Stopped) {
       for (const Point p : {path.entry, path.exit}) {
         RC_ASSERT(p.x > 12 - 1e-9 && p.x < 84 + 1e-9);
         RC_ASSERT(std::fabs(p.y) < rimHalfHeight(b) + 1e-9);
@@ -144,22 +145,22 @@ TEST(Robustness, SourcesOnAFaceEnterThereOrMiss) {
   for (int i = 0; i < lawRays; ++i) {
     const double n = random.index();
     const double b = deriveLens(n)->b;
-    const Glass glass = biconvex(12, b, n);
+    const light::Lens glass = biconvex(12, b, n);
     const double y = random.between(-0.9, 0.9) * rimHalfHeight(b);
     const bool right = i % 2 == 0;
     const double curve = 12 * std::hypot(1.0, y / b);
     const Point start{right ? 96 - curve : curve, y};
-    const auto normal = outwardNormal(glass.faces[right ? 1 : 0], start);
+    const auto normal = normalAt(right ? glass.right : glass.left, start);
     const double angle = random.between(0, 2 * std::numbers::pi);
     const Point direction{std::cos(angle), std::sin(angle)};
     const double outwards = dot(direction, normal.value_or(Point{1, 0}));
     if (!normal || std::fabs(outwards) < 0.01) continue;
-    const RayPath path = trace(glass, {start, direction}, wideOpen);
+    const Way path = wayThrough(glass, {start, direction}, wideOpen);
     if (outwards > 0) {
-      ASSERT_EQ(path.ending, Ending::Missed);
+      ASSERT_EQ(path.ending, End::Missed);
     } else {
       ++entering;
-      ASSERT_NE(path.ending, Ending::Missed);
+      ASSERT_NE(path.ending, End::Missed);
       ASSERT_FALSE(path.startsInGlass);
       ASSERT_TRUE(path.entryNormal);
       ASSERT_LT(length(path.entry - start), 1e-9);
@@ -168,17 +169,37 @@ TEST(Robustness, SourcesOnAFaceEnterThereOrMiss) {
   EXPECT_GT(entering, lawRays / 3);
 }
 
+// So far away rounding puts some entries beside or behind the glass.
+TEST(Robustness, ARayWithNoGlassAheadOfItsEntryEndsThere) {
+  RandomRays random(43);
+  int entered = 0, without = 0;
+  for (int i = 0; i < lawRays; ++i) {
+    const light::Lens glass = random.glass(random.index());
+    const light::Ray near = random.ray(glass);
+    const light::Ray ray{near.start - 1e16 * near.direction, near.direction};
+    const Way path = wayThrough(glass, ray, wideOpen);
+    ASSERT_TRUE(finite(path));
+    if (path.ending == End::Missed) continue;
+    ++entered;
+    // Never back from the entry.
+    ASSERT_GE(dot(path.exit - path.entry, path.inside), 0.0);
+    if (path.ending == End::Trapped && length(path.exit - path.entry) == 0.0) ++without;
+  }
+  EXPECT_GT(entered, lawRays / 3);
+  EXPECT_GT(without, 100);
+}
+
 TEST(Robustness, PointsMetAreOnTheirFaces) {
   RandomRays random(41);
   Largest error;
   for (int i = 0; i < lawRays; ++i) {
-    const Glass glass = random.glass(random.index());
-    const RayPath path = trace(glass, random.ray(glass), wideOpen);
-    if (path.ending == Ending::Missed) continue;
+    const light::Lens glass = random.glass(random.index());
+    const Way path = wayThrough(glass, random.ray(glass), wideOpen);
+    if (path.ending == End::Missed) continue;
     const auto fromFace = [&](Point p) {
-      const double curve = glass.a * std::hypot(1.0, p.y / glass.b);
-      const bool mirrored = std::holds_alternative<HyperbolicFace>(glass.faces[1]);
-      const double right = mirrored ? 8 * glass.a - curve : glass.rimX();
+      const double curve = semiAxis * std::hypot(1.0, p.y / bOf(glass));
+      const bool mirrored = isBiconvex(glass);
+      const double right = mirrored ? 8 * semiAxis - curve : rimX(semiAxis);
       return std::min(std::fabs(p.x - curve), std::fabs(p.x - right));
     };
     if (!path.startsInGlass) error.meet(fromFace(path.entry));

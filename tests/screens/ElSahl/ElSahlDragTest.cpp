@@ -20,21 +20,22 @@ TEST_F(ElSahlDrag, APressOnAnEdgeTakesItAndDrawsNothing) {
   press(130, 10);
   EXPECT_TRUE(screen.syromenigrammi1);
   EXPECT_FALSE(screen.syromenigrammi2);
+  EXPECT_EQ(before, picture());
   release(130, 10);
-  screen.canvas().Cls();
+  const QImage released = picture();
   press(127, -60);
   EXPECT_FALSE(screen.syromenigrammi1);
   EXPECT_TRUE(screen.syromenigrammi2);
-  EXPECT_TRUE(blank());
-  EXPECT_EQ(108, state.pigiX.value());
+  EXPECT_EQ(released, picture());
+  EXPECT_EQ(108, shared.pigiX.value());
 }
 
 TEST_F(ElSahlDrag, BesideAnEdgeAndInTheOpeningAPressPlacesTheSource) {
   for (const Point p : {Point{126.9, 60}, Point{133.1, 60}, Point{130, 9.9}, Point{130, -9.9}}) {
     press(p.x, p.y);
     EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
-    EXPECT_EQ(p.x, state.pigiX.value());
-    EXPECT_EQ(p.y, state.pigiY.value());
+    EXPECT_EQ(p.x, shared.pigiX.value());
+    EXPECT_EQ(p.y, shared.pigiY.value());
   }
 }
 
@@ -47,12 +48,11 @@ TEST_F(ElSahlDrag, BothEdgesTakeTheAbscissaAndTheDraggedEndTheOrdinate) {
 
 TEST_F(ElSahlDrag, TheReleaseClearsTheFlagsAndDrawsTheStoredSceneAnew) {
   for (const bool biconvex : {false, true}) {
-    state.amfikyrtosSahl = biconvex;
-    screen.canvas().PSet(-100, -100, RGB(1, 2, 3));
-    const double x = screen.controls().Line1.X1();
+    shared.amfikyrtosSahl = biconvex;
+    const double x = c.Line1.X1();
     drag({x, 60}, {100, 24});
     EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
-    EXPECT_TRUE(shows([&] { fan(108, 25); }));
+    EXPECT_TRUE(shows({fan(108, 25)}));
   }
 }
 
@@ -93,40 +93,39 @@ TEST_F(ElSahlDrag, TheAbscissaGoesToTheVerySides) {
 
 TEST_F(ElSahlDrag, AnEdgeDraggedUnderTheOptionsStaysBelowThem) {
   drag({130, 60}, {-60, 119});
-  const Point end{screen.controls().Line1.X2(), screen.controls().Line1.Y2()};
+  const Point end{c.Line1.X2(), c.Line1.Y2()};
   EXPECT_EQ(-60, end.x);
-  EXPECT_EQ(-10, screen.controls().Line2.Y2());
+  EXPECT_EQ(-10, c.Line2.Y2());
   EXPECT_EQ(nullptr, screen.drawingArea()->childAt(pixel(end.x, end.y)));
   EXPECT_GT(end.y, 100);
   QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(end.x, end.y + 1));
   EXPECT_TRUE(screen.syromenigrammi1);
   QTest::mouseRelease(screen.drawingArea(), Qt::LeftButton, {}, pixel(-60, 30));
-  EXPECT_NEAR(30, screen.controls().Line1.Y2(), 0.5);
+  EXPECT_NEAR(30, c.Line1.Y2(), 0.5);
 }
 
 TEST_F(ElSahlDrag, InAWindowOfOptionsAloneAnEdgeStaysInsideTheWindow) {
   press(130, 60);
-  screen.resize(screen.width(), screen.menuWidget()->height() + 10);
-  QCoreApplication::processEvents();
-  ASSERT_LT(screen.drawingArea()->height(), screen.controls().onlyrays.height());
+  resizeTo(screen.width(), screen.menuWidget()->height() + 10);
+  ASSERT_LT(screen.drawingArea()->height(), c.onlyrays.height());
   const Point middle = screen.canvas().mapping().toUser({100.0, 5.0});
   release(middle.x, middle.y);
-  EXPECT_DOUBLE_EQ(-117, screen.controls().Line1.Y2());
-  EXPECT_DOUBLE_EQ(-117, screen.controls().Line2.Y2());
+  const double bottom = screen.canvas().ScaleTop() + screen.canvas().ScaleHeight();
+  EXPECT_DOUBLE_EQ(bottom + 3, c.Line1.Y2());
+  EXPECT_DOUBLE_EQ(bottom + 3, c.Line2.Y2());
 }
 
 TEST_F(ElSahlDrag, AnEdgeDraggedOutOfTheWindowCanBeTakenAgain) {
   drag({130, 60}, {400, 500});
-  const Point upper{screen.controls().Line1.X2(), screen.controls().Line1.Y2()};
+  const Point upper{c.Line1.X2(), c.Line1.Y2()};
   EXPECT_EQ(150, upper.x);
   const QPoint beside = pixel(upper.x, upper.y + 1) - QPoint(1, 0);
   EXPECT_TRUE(screen.drawingArea()->rect().contains(beside));
   QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, beside);
   EXPECT_TRUE(screen.syromenigrammi1);
   release(100, -300);
-  EXPECT_TRUE(screen.drawingArea()->rect().contains(
-      pixel(screen.controls().Line2.X2(), screen.controls().Line2.Y2())));
-  EXPECT_LE(screen.controls().Line2.Y2(), screen.controls().Line1.Y2());
+  EXPECT_TRUE(screen.drawingArea()->rect().contains(pixel(c.Line2.X2(), c.Line2.Y2())));
+  EXPECT_LE(c.Line2.Y2(), c.Line1.Y2());
 }
 
 TEST_F(ElSahlDrag, ADraggedEdgeIsSeenMovingWhileThePictureStands) {
@@ -143,8 +142,8 @@ TEST_F(ElSahlDrag, ADraggedEdgeIsSeenMovingWhileThePictureStands) {
   EXPECT_EQ(QColor(0, 0, 192), seen());
   EXPECT_EQ(before, picture());
   QTest::mouseRelease(screen.drawingArea(), Qt::LeftButton, {}, pixel(20, 60));
-  EXPECT_NEAR(20, screen.controls().Line1.X1(), 0.5);
-  EXPECT_NEAR(60, screen.controls().Line1.Y2(), 0.5);
+  EXPECT_NEAR(20, c.Line1.X1(), 0.5);
+  EXPECT_NEAR(60, c.Line1.Y2(), 0.5);
 }
 
 TEST_F(ElSahlDrag, AnotherButtonDoesNotEndADrag) {
@@ -154,11 +153,44 @@ TEST_F(ElSahlDrag, AnotherButtonDoesNotEndADrag) {
   expectEdges(130, 10, -10);
 }
 
-TEST_F(ElSahlDrag, OpeningTheScreenAgainEndsADragLeftByTheKeyboard) {
-  press(130, 60);
-  screen.close();
-  screen.prepare();
+TEST_F(ElSahlDrag, HidingTheScreenEndsADragAndChangesNothing) {
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(130, 60));
+  move(100, 30);
+  ASSERT_TRUE(screen.syromenigrammi1);
+  screen.Hide();
+  EXPECT_FALSE(screen.syromenigrammi1);
+  expectEdges(130, 10, -10);
+  screen.Show();
   move(0, 0);
+  expectEdges(130, 10, -10);
+}
+
+TEST_F(ElSahlDrag, ADragThatIsLostChangesNothing) {
+  press(90, 0);
+  const QImage before = picture();
+  for (const double edge : {60.0, -60.0}) {
+    press(130, edge);
+    move(100, edge / 2);
+    emit screen.DragEnded();
+    EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
+    expectEdges(130, 10, -10);
+    release(80, 30);
+    expectEdges(130, 10, -10);
+  }
+  EXPECT_EQ(before, picture());
+}
+
+TEST_F(ElSahlDrag, ABoxInFrontOfTheScreenEndsADragAndChangesNothing) {
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixel(130, 60));
+  move(100, 30);
+  dialogs.whileOpen = [&] {
+    QEvent blocked(QEvent::WindowBlocked);
+    QCoreApplication::sendEvent(&screen, &blocked);
+    expectEdges(130, 10, -10);
+  };
+  screen.parallilidesmifotos_Click();
+  EXPECT_EQ(1, dialogs.prompts.size());
+  EXPECT_FALSE(screen.syromenigrammi1);
   expectEdges(130, 10, -10);
 }
 
@@ -173,7 +205,7 @@ TEST_F(ElSahlDrag, ReleaseWithoutADragChangesNothing) {
 TEST_F(ElSahlDrag, BelowIndex1TheEdgesMoveAndThePictureStays) {
   press(90, 0);
   const QImage before = picture();
-  state.deiktisSahl = 0.5;
+  shared.deiktisSahl = 0.5;
   drag({130, 60}, {100, 30});
   expectEdges(100, 30, -10);
   EXPECT_EQ(before, picture());
@@ -195,7 +227,7 @@ TEST_F(ElSahlDrag, ThePointerIsACrossOverAnEdgeAndWhileOneIsDragged) {
   EXPECT_EQ(2, screen.MousePointer());
   release(130, 10);
   for (const double edge : {60.0, -60.0}) {
-    press(screen.controls().Line1.X1(), edge);
+    press(c.Line1.X1(), edge);
     move(50, edge / 2);
     EXPECT_EQ(2, screen.MousePointer());
     release(50, edge / 2);
@@ -206,10 +238,10 @@ TEST_F(ElSahlDrag, ThePointerIsACrossOverAnEdgeAndWhileOneIsDragged) {
 
 TEST_F(ElSahlDrag, AClosedDiaphragmBeforeTheLensStopsEveryRay) {
   drag({130, 60}, {100, -10});
-  EXPECT_EQ(0, state.plithosaktinon.value());
+  EXPECT_EQ(0, rays());
   drag({100, -60}, {100, -110});
   drag({100, 60}, {100, 110});
-  EXPECT_GT(state.plithosaktinon.value(), 30);
+  EXPECT_GT(rays(), 30);
 }
 
 }  // namespace

@@ -1,20 +1,19 @@
-// The real Ibn Sahl screen, opened as the lens menu opens it, with moves and dialogs of the test.
+// The real Ibn Sahl screen, opened as the lens menu opens it, with all that the program hands it in
+// the hands of the test.
 #pragma once
 
 #include <cmath>
 #include <gtest/gtest.h>
-#include <optional>
+#include <stdexcept>
+#include <vector>
 
 #include <QCoreApplication>
 #include <QImage>
 #include <QTest>
 
-#include "optics/protosfakos/SahlScreen.h"
-#include "optics/protosfakos/SahlState.h"
-#include "optics/protosfakos/Scenes.h"
 #include "screens/ElSahl/ElSahl.h"
-#include "tests/screens/support/FakeDialogs.h"
-#include "tests/screens/support/FakeMoves.h"
+#include "tests/screens/support/PictureOf.h"
+#include "tests/screens/support/TestContext.h"
 
 namespace lensbench {
 
@@ -24,54 +23,50 @@ inline const QString invalidIndex = QStringLiteral("`Ακυρος Δείκτης
 class ElSahlFixture : public ::testing::Test {
  protected:
   ElSahlFixture() {
-    state = {};
-    state.deiktisSahl = 1.5;
-    state.pigiX = 108;
-    state.pigiY = 25;
-    protosfakos::connectSahlScreen([this]() -> protosfakos::SahlScreen& { return screen.view(); });
+    shared.deiktisSahl = 1.5;
+    shared.pigiX = 108;
+    shared.pigiY = 25;
     screen.prepare();
     QCoreApplication::processEvents();
   }
-  ~ElSahlFixture() override {
-    protosfakos::connectSahlScreen({});
-    state = {};
-  }
 
-  QImage picture() { return screen.canvas().image().copy(); }
+  QImage picture() { return screen.image().copy(); }
   bool blank() {
-    QImage empty(screen.canvas().image().size(), QImage::Format_RGB32);
+    QImage empty(picture().size(), QImage::Format_RGB32);
     empty.fill(Qt::white);
     return picture() == empty;
   }
+  void resizeTo(int width, int height) {
+    screen.setWindowState(Qt::WindowNoState);
+    screen.resize(width, height);
+    QCoreApplication::processEvents();
+  }
 
-  static double b() {
-    const double n = protosfakos::state().deiktisSahl.value();
-    return 12.0 * std::sqrt(n * n - 1.0);
+  // Scenes of the shared lens with the diaphragm and the options as they stand.
+  protosfakos::Scene scene(const protosfakos::Rays& rays) {
+    protosfakos::Asked asked = screen.askedFan();
+    asked.rays = rays;
+    return protosfakos::sceneOf(asked);
   }
-  void fan(double x, double y) {
-    if (state.amfikyrtosSahl) {
-      protosfakos::sxediasiamfikyrtou(12, b(), x, y);
-    } else {
-      protosfakos::sxediasiepipedokyrtou(12, b(), x, y);
-    }
-  }
-  void bundle(double m) {
-    if (state.amfikyrtosSahl) {
-      protosfakos::desmiamfikyrtou(12, b(), m);
-    } else {
-      protosfakos::desmiepipedokyrtou(12, b(), m);
-    }
-  }
-  // Whether the picture is what the drawing gives on a clear screen, and something at all.
-  template <typename Drawing>
-  ::testing::AssertionResult shows(Drawing drawing) {
+  protosfakos::Scene fan(double x, double y) { return scene(protosfakos::Fan{{x, y}}); }
+  protosfakos::Scene bundle(double slope) { return scene(protosfakos::Desmi{slope}); }
+  // Whether the picture is what these layers give on a clear screen, and something at all.
+  ::testing::AssertionResult shows(const std::vector<protosfakos::Layer>& layers) {
     if (blank()) return ::testing::AssertionFailure() << "the picture is blank";
-    const QImage seen = picture();
-    screen.canvas().Cls();
-    drawing();
-    if (seen == picture()) return ::testing::AssertionSuccess();
+    if (picture() == pictureOf(screen, protosfakos::Shown{layers})) {
+      return ::testing::AssertionSuccess();
+    }
     return ::testing::AssertionFailure() << "another picture is shown";
   }
+  // The scene that was drawn last, and its number of recorded rays.
+  const protosfakos::Scene& lastScene() {
+    const auto& layers = screen.shown().layers;
+    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
+      if (const auto* scene = std::get_if<protosfakos::Scene>(&*layer)) return *scene;
+    }
+    throw std::logic_error("no scene is shown");
+  }
+  int rays() { return lastScene().traced->plithosaktinon(); }
 
   void press(double x, double y) { screen.Form_MouseDown(1, 0, x, y); }
   void release(double x, double y) { screen.Form_MouseUp(1, 0, x, y); }
@@ -82,7 +77,6 @@ class ElSahlFixture : public ::testing::Test {
   }
 
   void expectEdges(double x, double upper, double lower) {
-    const SahlControls& c = screen.controls();
     EXPECT_DOUBLE_EQ(x, c.Line1.X1());
     EXPECT_DOUBLE_EQ(x, c.Line1.X2());
     EXPECT_DOUBLE_EQ(x, c.Line2.X1());
@@ -92,11 +86,18 @@ class ElSahlFixture : public ::testing::Test {
     EXPECT_DOUBLE_EQ(-200, c.Line2.Y1());
     EXPECT_DOUBLE_EQ(lower, c.Line2.Y2());
   }
+  void expectOpeningScale() {
+    EXPECT_EQ(-120, screen.canvas().ScaleLeft());
+    EXPECT_EQ(120, screen.canvas().ScaleTop());
+    EXPECT_EQ(270, screen.canvas().ScaleWidth());
+    EXPECT_EQ(-240, screen.canvas().ScaleHeight());
+  }
 
-  protosfakos::SahlState& state = protosfakos::state();
-  FakeDialogs dialogs;
-  FakeMoves moves;
-  ElSahl screen{moves};
+  TestContext t;
+  Shared& shared = t.shared;
+  FakeDialogs& dialogs = t.dialogs;
+  ElSahl screen{t.context};
+  SahlControls& c = screen.controls();
 };
 
 }  // namespace lensbench

@@ -11,8 +11,8 @@ namespace {
 class ElSahlScreen : public ElSahlFixture {};
 
 TEST(ElSahlDesign, LoadPlacesTheEdgesAndSelectsRaysAndWaves) {
-  FakeMoves moves;
-  ElSahl screen(moves);
+  TestContext t;
+  ElSahl screen(t.context);
   EXPECT_EQ("ElSahl", screen.objectName());
   EXPECT_EQ("Φακός Ιμπν Σαχλ 2 υπεροβλές", screen.Caption());
   EXPECT_EQ(white, screen.canvas().BackColor());
@@ -34,13 +34,14 @@ TEST(ElSahlDesign, LoadPlacesTheEdgesAndSelectsRaysAndWaves) {
 }
 
 TEST(ElSahlDesign, StartUpMovesTheEdgesTo200) {
-  FakeMoves moves;
-  ElSahl screen(moves);
+  TestContext t;
+  ElSahl screen(t.context);
+  const SahlControls& c = screen.controls();
   screen.strokesAt(200);
-  EXPECT_EQ(200, screen.controls().Line1.X1());
-  EXPECT_EQ(200, screen.controls().Line2.X2());
-  EXPECT_EQ(10, screen.controls().Line1.Y2());
-  EXPECT_EQ(-10, screen.controls().Line2.Y2());
+  EXPECT_EQ(200, c.Line1.X1());
+  EXPECT_EQ(200, c.Line2.X2());
+  EXPECT_EQ(10, c.Line1.Y2());
+  EXPECT_EQ(-10, c.Line2.Y2());
 }
 
 TEST_F(ElSahlScreen, PrepareOpensASquareWindowTwoThirdsOfTheDisplayHigh) {
@@ -51,82 +52,73 @@ TEST_F(ElSahlScreen, PrepareOpensASquareWindowTwoThirdsOfTheDisplayHigh) {
   EXPECT_EQ(0, screen.Top());
   EXPECT_NEAR(display / 1.5, screen.Height(), 15.0);
   EXPECT_EQ(screen.Height(), screen.Width());
-  EXPECT_EQ(-120, screen.canvas().ScaleLeft());
-  EXPECT_EQ(120, screen.canvas().ScaleTop());
-  EXPECT_EQ(270, screen.canvas().ScaleWidth());
-  EXPECT_EQ(-240, screen.canvas().ScaleHeight());
+  expectOpeningScale();
   expectEdges(130, 10, -10);
 }
 
-TEST_F(ElSahlScreen, PrepareAgainResetsSizeScaleAndEdges) {
+TEST_F(ElSahlScreen, PrepareAgainResetsSizePlaceScaleAndEdges) {
+  const QRect opened = screen.geometry();
   press(130, 50);
   release(60, 40);
-  screen.resize(500, 300);
+  screen.Left(600);
+  screen.Top(450);
+  resizeTo(500, 300);
   screen.prepare();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(opened, screen.geometry());
+  EXPECT_EQ(0, screen.Left());
+  EXPECT_EQ(0, screen.Top());
   EXPECT_EQ(screen.Height(), screen.Width());
-  EXPECT_EQ(270, screen.canvas().ScaleWidth());
-  EXPECT_EQ(-240, screen.canvas().ScaleHeight());
+  expectOpeningScale();
   expectEdges(130, 10, -10);
 }
 
-TEST_F(ElSahlScreen, ANewSizeFitsTheSceneOnlyUntilSomethingIsDoneByHand) {
-  screen.resize(640, 480);
+TEST_F(ElSahlScreen, AMaximisedScreenOpensAgainAsTheFirstTime) {
+  screen.drawFan();
+  const QRect opened = screen.geometry();
+  const QImage first = picture();
+  screen.showMaximized();
   QCoreApplication::processEvents();
-  EXPECT_EQ(270, screen.canvas().ScaleWidth());
-  expectEdges(130, 10, -10);
-  EXPECT_TRUE(shows([&] { fan(108, 25); }));
-
-  press(100, 0);
-  const QImage before = picture();
-  screen.resize(700, 520);
+  ASSERT_NE(opened, screen.geometry());
+  c.BACKKELMO.trigger();
+  screen.Hide();
+  screen.prepare();
+  screen.drawFan();
   QCoreApplication::processEvents();
-  EXPECT_GT(screen.canvas().ScaleWidth(), 270);
-  EXPECT_EQ(before, screen.canvas().image().copy(before.rect()));
-}
-
-TEST_F(ElSahlScreen, AnOptionChosenByHandKeepsThePictureAtANewSize) {
-  SahlControls& c = screen.controls();
-  for (OptionButton* option : {&c.onlyrays, &c.kymataYESNO, &c.RAYSANDWAVES}) {
-    screen.prepare();
-    screen.canvas().Cls();
-    fan(108, 25);
-    const QImage before = picture();
-    QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(10, option->height() / 2));
-    screen.resize(screen.width() + 60, screen.height() + 40);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(before, screen.canvas().image().copy(before.rect()))
-        << qPrintable(option->objectName());
-  }
-}
-
-TEST_F(ElSahlScreen, AnIndexChangedInTheMenuKeepsThePictureAtANewSize) {
-  screen.canvas().Cls();
-  fan(108, 25);
-  const QImage before = picture();
-  state.deiktisSahl = 2.0;
-  screen.resize(screen.width() + 60, screen.height() + 40);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(before, screen.canvas().image().copy(before.rect()));
+  EXPECT_FALSE(screen.isMaximized());
+  EXPECT_EQ(opened, screen.geometry());
+  expectOpeningScale();
+  EXPECT_EQ(first, picture());
 }
 
 TEST_F(ElSahlScreen, HowToUseTheMouseIsSaidUntilItHasBeenDone) {
   const auto hint = [&] { return screen.drawingArea()->toolTip(); };
   EXPECT_TRUE(hint().contains("Press to place the source"));
   EXPECT_TRUE(hint().contains("Πάτησε για να βάλεις την πηγή"));
-  state.deiktisSahl = 0.5;
+  shared.deiktisSahl = 0.5;
   press(100, 0);
   EXPECT_FALSE(hint().isEmpty());
-  state.deiktisSahl = 1.5;
+  shared.deiktisSahl = 1.5;
   press(100, 0);
   EXPECT_TRUE(hint().isEmpty());
 
-  ElSahl another(moves);
+  ElSahl another(t.context);
   another.prepare();
   EXPECT_FALSE(another.drawingArea()->toolTip().isEmpty());
   another.Form_MouseDown(1, 0, 130, 60);
   EXPECT_FALSE(another.drawingArea()->toolTip().isEmpty());
   another.Form_MouseUp(1, 0, 100, 60);
   EXPECT_TRUE(another.drawingArea()->toolTip().isEmpty());
+}
+
+TEST_F(ElSahlScreen, TheTabKeyGoesThroughTheOptionsFromLeftToRight) {
+  QStringList order;
+  const QWidget* widget = &c.kymataYESNO;
+  do {
+    if (widget->parent() == screen.drawingArea()) order << widget->objectName();
+    widget = widget->nextInFocusChain();
+  } while (widget != &c.kymataYESNO);
+  EXPECT_EQ((QStringList{"kymataYESNO", "RAYSANDWAVES", "onlyrays"}), order);
 }
 
 TEST_F(ElSahlScreen, MenuEntriesStandInTheBarInTheirOrder) {
@@ -136,7 +128,6 @@ TEST_F(ElSahlScreen, MenuEntriesStandInTheBarInTheirOrder) {
 }
 
 TEST_F(ElSahlScreen, OptionsStandInOneRowAndShowTheirWholeText) {
-  SahlControls& c = screen.controls();
   EXPECT_EQ("ONLY WAVES", c.kymataYESNO.Caption());
   EXPECT_EQ("RAYS WAVES", c.RAYSANDWAVES.Caption());
   EXPECT_EQ("Only Rays", c.onlyrays.Caption());
@@ -166,7 +157,6 @@ TEST_F(ElSahlScreen, EveryControlSaysInTwoLanguagesWhatItIsAndDoes) {
 }
 
 TEST_F(ElSahlScreen, ClickingAnOptionSelectsItAlone) {
-  SahlControls& c = screen.controls();
   const auto expectOnly = [&](const OptionButton& selected) {
     for (OptionButton* option : {&c.onlyrays, &c.RAYSANDWAVES, &c.kymataYESNO}) {
       EXPECT_EQ(option == &selected, option->Value()) << qPrintable(option->objectName());
@@ -186,50 +176,50 @@ TEST_F(ElSahlScreen, ClickingAnOptionSelectsItAlone) {
 }
 
 TEST_F(ElSahlScreen, OnlyWavesRaisesItsFlagAndAPressLowersIt) {
-  QTest::mouseClick(&screen.controls().kymataYESNO, Qt::LeftButton);
-  EXPECT_TRUE(state.onlyWavesAsked);
+  QTest::mouseClick(&c.kymataYESNO, Qt::LeftButton);
+  EXPECT_TRUE(shared.onlyWavesAsked);
   screen.RAYSANDWAVES_Click();
-  EXPECT_TRUE(state.onlyWavesAsked);
+  EXPECT_TRUE(shared.onlyWavesAsked);
   press(130, 50);
-  EXPECT_FALSE(state.onlyWavesAsked);
+  EXPECT_FALSE(shared.onlyWavesAsked);
 }
 
 TEST_F(ElSahlScreen, OptionsAreReadAtTheNextDrawing) {
   press(108, 25);
   const QImage both = picture();
-  screen.controls().onlyrays.click();
+  c.onlyrays.click();
   EXPECT_EQ(both, picture());
   press(108, 25);
   const QImage rays = picture();
   EXPECT_NE(both, rays);
-  screen.controls().kymataYESNO.click();
+  c.kymataYESNO.click();
   press(108, 25);
   EXPECT_NE(both, picture());
   EXPECT_NE(rays, picture());
-  EXPECT_TRUE(screen.view().onlyWaves());
+  EXPECT_TRUE(lastScene().asked.onlyWaves);
 }
 
 TEST_F(ElSahlScreen, BackToMenuClearsAndLeaves) {
   press(100, 10);
   ASSERT_FALSE(blank());
-  screen.controls().BACKKELMO.trigger();
+  c.BACKKELMO.trigger();
   EXPECT_TRUE(blank());
-  EXPECT_EQ(std::vector<std::string>{"leaveIbnSahl"}, moves.made);
-  EXPECT_EQ(100, state.pigiX.value());
-  EXPECT_EQ(10, state.pigiY.value());
+  EXPECT_EQ(std::vector<std::string>{"leaveIbnSahl"}, t.moves.made);
+  EXPECT_EQ(100, shared.pigiX.value());
+  EXPECT_EQ(10, shared.pigiY.value());
 }
 
 TEST_F(ElSahlScreen, TheCloseBoxIsBackToMenu) {
   press(100, 10);
   screen.close();
   EXPECT_TRUE(blank());
-  EXPECT_EQ(std::vector<std::string>{"leaveIbnSahl"}, moves.made);
+  EXPECT_EQ(std::vector<std::string>{"leaveIbnSahl"}, t.moves.made);
   EXPECT_TRUE(screen.isVisible());
 }
 
 TEST_F(ElSahlScreen, EndEndsTheProgram) {
-  screen.controls().TELOS.trigger();
-  EXPECT_EQ(std::vector<std::string>{"End"}, moves.made);
+  c.TELOS.trigger();
+  EXPECT_EQ(std::vector<std::string>{"End"}, t.moves.made);
 }
 
 TEST_F(ElSahlScreen, HidingAndShowingKeepsThePicture) {

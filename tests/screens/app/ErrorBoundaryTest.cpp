@@ -1,29 +1,17 @@
 // An error that escapes a handler is shown and ends the program with exit status 1.
 #include <gtest/gtest.h>
-#include <iostream>
 
 #include <QCoreApplication>
 #include <QTimer>
 
-#include "app/Application.h"
-#include "app/Screens.h"
 #include "canvas/RuntimeError.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
-#include "tests/screens/support/FakeDialogs.h"
+#include "tests/screens/app/Shell.h"
 
 namespace lensbench {
 namespace {
-
-// Says on the error stream what the box would have shown, before the process is gone.
-class SpokenDialogs : public FakeDialogs {
- public:
-  void Critical(const QString& /*title*/, const QString& text,
-                const QString& informative) override {
-    std::cerr << text.toStdString() << '\n' << informative.toStdString() << '\n';
-  }
-};
 
 void deliverEvents() {
   for (int i = 0; i < 50; ++i) QCoreApplication::processEvents();
@@ -54,8 +42,8 @@ TEST(ErrorBoundary, SaysThatAnErrorCameAtStartUp) {
 TEST(ErrorBoundary, AnErrorInAHandlerEndsTheProgramAfterTheBox) {
   EXPECT_EXIT(
       {
-        const SpokenDialogs boxes;
-        Screens screens;
+        Program program;
+        Screens& screens = program.screens;
         Main(screens);
         screens.kelmo().controls().singleray.trigger();
         QTimer::singleShot(0, [&screens] { screens.moniaktina().controls().aktina2.Value(0); });
@@ -67,22 +55,23 @@ TEST(ErrorBoundary, AnErrorInAHandlerEndsTheProgramAfterTheBox) {
 TEST(ErrorBoundary, AnAnswerThatIsNoNumberEndsTheProgramAndNamesTheAction) {
   EXPECT_EXIT(
       {
-        SpokenDialogs boxes;
-        boxes.answer = "abc";
-        Screens screens;
+        Shell::instance->boxes.answer = "abc";
+        Program program;
+        Screens& screens = program.screens;
         Main(screens);
         QTimer::singleShot(0, [&screens] { screens.kelmo().controls().EPANALIPSI.trigger(); });
         deliverEvents();
       },
-      ::testing::ExitedWithCode(1), "Error 13: Type mismatch(.|\n)*Bundle of parallel rays");
+      ::testing::ExitedWithCode(1),
+      "Error 13: Type mismatch(.|\n)*“abc” is no number(.|\n)*Bundle of parallel rays");
 }
 
 TEST(ErrorBoundary, AnAngleThatIsNoNumberEndsTheProgramAndNamesTheAction) {
   EXPECT_EXIT(
       {
-        SpokenDialogs boxes;
-        boxes.answer = "x";
-        Screens screens;
+        Shell::instance->boxes.answer = "x";
+        Program program;
+        Screens& screens = program.screens;
         Main(screens);
         screens.openIbnSahl();
         QTimer::singleShot(
@@ -93,12 +82,8 @@ TEST(ErrorBoundary, AnAngleThatIsNoNumberEndsTheProgramAndNamesTheAction) {
 }
 
 TEST(ErrorBoundary, StandsAroundStartUpToo) {
-  EXPECT_EXIT(
-      {
-        const SpokenDialogs boxes;
-        static_cast<Application*>(QCoreApplication::instance())->run([] { throwOverflow(); });
-      },
-      ::testing::ExitedWithCode(1), "Error 6: Overflow(.|\n)*at start-up");
+  EXPECT_EXIT({ Shell::instance->application.run([] { throwOverflow(); }); },
+              ::testing::ExitedWithCode(1), "Error 6: Overflow(.|\n)*at start-up");
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The lens menu, with the real Ibn Sahl screen behind it.
-#include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -7,65 +6,62 @@
 #include <QImage>
 #include <QTest>
 
-#include "app/Screens.h"
-#include "optics/protosfakos/SahlScreen.h"
-#include "optics/protosfakos/SahlState.h"
-#include "optics/protosfakos/Scenes.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/eisagogiko/eisagogiko.h"
-#include "tests/screens/support/FakeDialogs.h"
-#include "tests/screens/support/FakeMoves.h"
+#include "tests/screens/support/PictureOf.h"
+#include "tests/screens/support/TestContext.h"
 
 namespace lensbench {
 namespace {
 
-// The move to the Ibn Sahl screen is made; the others are written down.
+// The moves to the Ibn Sahl screen are made; all are written down.
 class MovesToIbnSahl : public FakeMoves {
  public:
+  explicit MovesToIbnSahl(TestContext& t)
+      : context_{*this, t.dialogs, t.clock, t.actions, t.shared} {}
+
+  const Context& context() const { return context_; }
   ElSahl& sahl() {
-    if (!sahl_) sahl_ = std::make_unique<ElSahl>(*this);
+    if (!sahl_) sahl_ = std::make_unique<ElSahl>(context_);
     return *sahl_;
   }
   void openIbnSahl() override {
     FakeMoves::openIbnSahl();
     sahl().prepare();
   }
+  void drawIbnSahl() override {
+    FakeMoves::drawIbnSahl();
+    sahl().drawFan();
+  }
 
  private:
+  Context context_;
   std::unique_ptr<ElSahl> sahl_;
 };
 
+const std::vector<std::string> opened{"openIbnSahl", "drawIbnSahl"};
+
 class Eisagogiko : public ::testing::Test {
  protected:
-  Eisagogiko() {
-    protosfakos::connectSahlScreen(
-        [this]() -> protosfakos::SahlScreen& { return moves.sahl().view(); });
-  }
-  ~Eisagogiko() override {
-    protosfakos::connectSahlScreen({});
-    state = {};
-  }
-
   MenuControls& controls() { return menu.controls(); }
   QString label() { return controls().Label1.Caption(); }
-  QImage picture() { return moves.sahl().canvas().image().copy(); }
-  // Whether the Ibn Sahl screen shows the lens of index n with the fan of its first source.
+  QImage picture() { return moves.sahl().image().copy(); }
+  // Whether the Ibn Sahl screen shows the lens of index n with the fan of its first source, and
+  // nothing else.
   bool showsLens(double n, bool biconvex) {
-    const QImage seen = picture();
-    moves.sahl().canvas().Cls();
-    const double b = std::sqrt(144 * n * n - 144);
-    if (biconvex) {
-      protosfakos::sxediasiamfikyrtou(12, b, 108, 25);
-    } else {
-      protosfakos::sxediasiepipedokyrtou(12, b, 108, 25);
-    }
-    return seen == picture();
+    const protosfakos::Asked asked{.amfikyrtos = biconvex,
+                                   .deiktisSahl = n,
+                                   .rays = protosfakos::Fan{{108, 25}},
+                                   .diafragma = {130, 10, -10}};
+    const protosfakos::Shown expected{{protosfakos::sceneOf(asked)}};
+    return picture() == pictureOf(moves.sahl(), expected);
   }
 
-  protosfakos::SahlState& state = protosfakos::state();
-  FakeDialogs dialogs;
-  MovesToIbnSahl moves;
-  eisagogiko menu{moves};
+  TestContext t;
+  MovesToIbnSahl moves{t};
+  FakeDialogs& dialogs = t.dialogs;
+  Shared& shared = t.shared;
+  eisagogiko menu{moves.context()};
 };
 
 TEST_F(Eisagogiko, StartsAsDesigned) {
@@ -84,7 +80,7 @@ TEST_F(Eisagogiko, StartsAsDesigned) {
 }
 
 TEST_F(Eisagogiko, LoadReadsTheIndexAndWritesTheLabel) {
-  EXPECT_DOUBLE_EQ(1.5, state.deiktisSahl.value());
+  EXPECT_DOUBLE_EQ(1.5, shared.deiktisSahl.value());
   EXPECT_EQ("INDEX OF REFRACTION Δείκτης Διάθλασης= 1.50", label());
 }
 
@@ -93,7 +89,7 @@ TEST_F(Eisagogiko, ChangeWritesTheLabelAndTheIndexAndDrawsNothing) {
   const QImage before = picture();
   controls().deiktissahl.Value(170);
   EXPECT_EQ("INDEX  OF REFRACTION Δείκτης Διάθλασης= 1.70", label());
-  EXPECT_DOUBLE_EQ(1.7, state.deiktisSahl.value());
+  EXPECT_DOUBLE_EQ(1.7, shared.deiktisSahl.value());
   EXPECT_EQ(before, picture());
   controls().deiktissahl.Value(1000);
   EXPECT_EQ("INDEX  OF REFRACTION Δείκτης Διάθλασης= 2.50", label());
@@ -101,30 +97,30 @@ TEST_F(Eisagogiko, ChangeWritesTheLabelAndTheIndexAndDrawsNothing) {
 
 TEST_F(Eisagogiko, TheBiconvexButtonOpensAndDrawsTheBiconvexLens) {
   QTest::mouseClick(&controls().Command1, Qt::LeftButton);
-  EXPECT_EQ(std::vector<std::string>{"openIbnSahl"}, moves.made);
+  EXPECT_EQ(opened, moves.made);
   EXPECT_TRUE(moves.sahl().isVisible());
-  EXPECT_TRUE(state.amfikyrtosSahl);
-  EXPECT_EQ(108, state.pigiX.value());
-  EXPECT_EQ(25, state.pigiY.value());
+  EXPECT_TRUE(shared.amfikyrtosSahl);
+  EXPECT_EQ(108, shared.pigiX.value());
+  EXPECT_EQ(25, shared.pigiY.value());
   EXPECT_EQ("Αμφίκυρτος φακός του Ιμπν Σαχλ με δύο υπερβολές", moves.sahl().Caption());
   EXPECT_TRUE(showsLens(1.5, true));
 }
 
 TEST_F(Eisagogiko, ThePlanoConvexButtonOpensAndDrawsThePlanoConvexLens) {
-  state.amfikyrtosSahl = true;
-  state.onlyWavesAsked = true;
+  shared.amfikyrtosSahl = true;
+  shared.onlyWavesAsked = true;
   QTest::mouseClick(&controls().Command2, Qt::LeftButton);
-  EXPECT_EQ(std::vector<std::string>{"openIbnSahl"}, moves.made);
-  EXPECT_FALSE(state.amfikyrtosSahl);
-  EXPECT_FALSE(state.onlyWavesAsked);
+  EXPECT_EQ(opened, moves.made);
+  EXPECT_FALSE(shared.amfikyrtosSahl);
+  EXPECT_FALSE(shared.onlyWavesAsked);
   EXPECT_EQ("Επιπεδόκυρτος φακός του Ιμπν Σαχλ ", moves.sahl().Caption());
   EXPECT_TRUE(showsLens(1.5, false));
 }
 
 TEST_F(Eisagogiko, TheBiconvexButtonLeavesTheWaveOptionFlag) {
-  state.onlyWavesAsked = true;
+  shared.onlyWavesAsked = true;
   menu.Command1_Click();
-  EXPECT_TRUE(state.onlyWavesAsked);
+  EXPECT_TRUE(shared.onlyWavesAsked);
 }
 
 TEST_F(Eisagogiko, AButtonClearsThePictureBefore) {
@@ -134,6 +130,31 @@ TEST_F(Eisagogiko, AButtonClearsThePictureBefore) {
   EXPECT_TRUE(showsLens(1.5, false));
 }
 
+// Opens the screen, asks for its picture; by then lens and source are settled.
+TEST(EisagogikoOrder, TheSourceAndTheLensAreSetBeforeThePictureIsAskedFor) {
+  TestContext t;
+  class Watching : public FakeMoves {
+   public:
+    explicit Watching(const Shared& shared) : shared_(shared) {}
+    void openIbnSahl() override {
+      EXPECT_TRUE(shared_.pigiX.isEmpty());
+      FakeMoves::openIbnSahl();
+    }
+    void drawIbnSahl() override {
+      EXPECT_EQ(108, shared_.pigiX.value());
+      EXPECT_EQ(25, shared_.pigiY.value());
+      EXPECT_TRUE(shared_.amfikyrtosSahl);
+      FakeMoves::drawIbnSahl();
+    }
+
+   private:
+    const Shared& shared_;
+  } moves(t.shared);
+  eisagogiko menu({moves, t.dialogs, t.clock, t.actions, t.shared});
+  menu.Command1_Click();
+  EXPECT_EQ(opened, moves.made);
+}
+
 TEST_F(Eisagogiko, AButtonResetsAnOpenIbnSahlScreen) {
   menu.Command1_Click();
   ElSahl& sahl = moves.sahl();
@@ -141,13 +162,14 @@ TEST_F(Eisagogiko, AButtonResetsAnOpenIbnSahlScreen) {
   sahl.Form_MouseUp(1, 0, 60, 40);
   sahl.Form_MouseDown(1, 0, -50, 60);
   sahl.resize(500, 300);
+  QCoreApplication::processEvents();
   menu.Command1_Click();
   EXPECT_EQ(sahl.Width(), sahl.Height());
   EXPECT_EQ(270, sahl.canvas().ScaleWidth());
   EXPECT_EQ(130, sahl.controls().Line1.X1());
   EXPECT_EQ(10, sahl.controls().Line1.Y2());
   EXPECT_EQ(-10, sahl.controls().Line2.Y2());
-  EXPECT_EQ(108, state.pigiX.value());
+  EXPECT_EQ(108, shared.pigiX.value());
   EXPECT_TRUE(showsLens(1.5, true));
 }
 
@@ -165,16 +187,18 @@ TEST_F(Eisagogiko, TheEndsOfTheScrollBarDrawTheirLenses) {
 TEST_F(Eisagogiko, BelowIndex1ShowsTheMessageAndDrawsNothing) {
   menu.Command1_Click();
   const QImage before = picture();
-  state.deiktisSahl = 0.99;
-  state.pigiX = 7;
+  shared.deiktisSahl = 0.99;
+  shared.pigiX = 7;
   for (const auto click : {&eisagogiko::Command1_Click, &eisagogiko::Command2_Click}) {
     dialogs.messages.clear();
+    moves.made.clear();
     (menu.*click)();
+    EXPECT_EQ(std::vector<std::string>{"openIbnSahl"}, moves.made);
     EXPECT_EQ(QStringList{"`Ακυρος Δείκτης Διάθλασηςgive a bigger value"}, dialogs.messages);
     EXPECT_TRUE(moves.sahl().isVisible());
     EXPECT_EQ(before, picture());
-    EXPECT_EQ(7, state.pigiX.value());
-    EXPECT_TRUE(state.amfikyrtosSahl);
+    EXPECT_EQ(7, shared.pigiX.value());
+    EXPECT_TRUE(shared.amfikyrtosSahl);
   }
 }
 
@@ -225,16 +249,6 @@ TEST_F(Eisagogiko, TheTabKeyGoesThroughTheControlsInOrder) {
     widget = widget->nextInFocusChain();
   } while (widget != &controls().Command1);
   EXPECT_EQ((QStringList{"Command1", "Command2", "deiktissahl", "Command3"}), order);
-}
-
-TEST(EisagogikoAtStart, MainWritesTheThirdLabelText) {
-  Screens screens;
-  Main(screens);
-  EXPECT_EQ("Index of Refraction n=1.50", screens.eisagogiko().controls().Label1.Caption());
-  EXPECT_FALSE(screens.eisagogiko().isVisible());
-  EXPECT_FALSE(screens.ElSahl().isVisible());
-  EXPECT_EQ(200, screens.ElSahl().controls().Line1.X1());
-  EXPECT_DOUBLE_EQ(1.5, protosfakos::state().deiktisSahl.value());
 }
 
 }  // namespace

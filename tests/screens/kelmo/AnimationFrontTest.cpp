@@ -3,8 +3,9 @@
 #include <cmath>
 #include <vector>
 
+#include "optics/light/OpticalPath.h"
+#include "optics/poreiaaktinon/Fronts.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Wavefront.h"
 #include "tests/screens/kelmo/KelmoTest.h"
 #include "tests/screens/kelmo/SnellTracer.h"
 
@@ -20,22 +21,25 @@ class AnimationFrontTest : public KelmoTest {
  protected:
   AnimationFrontTest() { openDiaphragm(); }
 
-  const RaySet& set() const { return screen.animation().set(); }
-  Front front(int step) const { return frontAt(set(), stepLength * step); }
+  poreiaaktinon::Front front(int step) {
+    return poreiaaktinon::frontAt(*screen.set(), stepLength * step);
+  }
+  static bool beforeTheLens(const light::FrontPoint& p) {
+    return p.crossed[0] == light::Side::None;
+  }
 
   // Each point of the fronts of a run stands on its ray at the optical path of its step.
   void expectFrontsOnTheirRays() {
     std::vector<snell::Ray> rays;
-    for (const auto& path : set().rays) {
-      rays.push_back(snell::trace(screen.workbench().fakos(),
-                                  screen.workbench().deiktisdiathlasis(), path.points[0],
-                                  path.directions[0]));
+    for (const auto& path : set()) {
+      rays.push_back(
+          snell::trace(screen.fakos(), screen.n(), path.start(), path.pieces[0].direction));
     }
     std::size_t compared = 0;
     for (const int step : {1, 20, 52, 60, 80, 100, 140, 180, 220, 240}) {
       for (std::size_t i = 0; i < rays.size(); ++i) {
-        const auto& path = set().rays[i];
-        const auto point = poreiaaktinon::pointAtOpticalPath(path, stepLength * step);
+        const auto& path = set()[i];
+        const auto point = light::pointAtOpticalPath(path, stepLength * step);
         if (!point) continue;
         const auto expected = snell::at(rays[i], stepLength * step - path.phase);
         ASSERT_TRUE(expected);
@@ -74,7 +78,7 @@ TEST_F(AnimationFrontTest, FrontsOfPlaneWavesHaveEqualOpticalPaths) {
 }
 
 TEST_F(AnimationFrontTest, FrontsOfAPointSourceHaveEqualOpticalPaths) {
-  press(-260.0, 70.0, Key::Shift);
+  press(-260.0, 70.0, Qt::ShiftModifier);
   release(-260.0, 70.0);
   for (const int index : {40, 100, 150, 250}) {
     SCOPED_TRACE(index);
@@ -90,10 +94,10 @@ TEST_F(AnimationFrontTest, TheWaveOnTheAxisIsSlowerInTheGlassByTheIndex) {
     c.deiktisdiathlasis.Value(static_cast<int>(std::lround(100.0 * n)));
     c.desmi1.Value(2);
     c.parallilakymata.trigger();
-    const auto& axial = set().rays[1];
-    ASSERT_NEAR(axial.points[0].y, 0.0, 1e-9);
+    const auto& axial = set()[1];
+    ASSERT_NEAR(axial.start().y, 0.0, 1e-9);
     const auto x = [&](int step) {
-      return poreiaaktinon::pointAtOpticalPath(axial, stepLength * step)->position.x;
+      return light::pointAtOpticalPath(axial, stepLength * step)->position.x;
     };
     // The lens reaches from -70 to 50 on the axis; the wave enters it after 52 steps.
     const double outside = x(31) - x(30);
@@ -131,9 +135,9 @@ TEST_F(AnimationFrontTest, PlaneFrontsAreSquareToTheirRaysBeforeTheLens) {
     c.parallilakymata.trigger();
     const double angle = QString(degrees).toDouble() * pi / 180.0;
     for (const int step : {1, 10, 20, 30}) {
-      for (const auto& path : set().rays) {
-        const auto p = poreiaaktinon::pointAtOpticalPath(path, stepLength * step);
-        if (!p || p->region != poreiaaktinon::Region::BeforeLens) continue;
+      for (const auto& path : set()) {
+        const auto p = light::pointAtOpticalPath(path, stepLength * step);
+        if (!p || !beforeTheLens(*p)) continue;
         const double advance =
             (p->position.x + 200.0) * std::cos(angle) + p->position.y * std::sin(angle);
         EXPECT_NEAR(advance, stepLength * step, tolerance);
@@ -148,18 +152,17 @@ TEST_F(AnimationFrontTest, FrontsStaySquareToTheirRaysInAndBehindTheLens) {
   c.parallilakymata.trigger();
   std::size_t compared = 0;
   for (const int step : {60, 80, 100, 120, 140}) {
-    for (std::size_t i = 1; i < set().rays.size(); ++i) {
-      const auto& one = set().rays[i - 1];
-      const auto& two = set().rays[i];
-      const auto a = poreiaaktinon::pointAtOpticalPath(one, stepLength * step);
-      const auto b = poreiaaktinon::pointAtOpticalPath(two, stepLength * step);
-      if (!a || !b || a->crossed != b->crossed || a->region == poreiaaktinon::Region::BeforeLens) {
+    for (std::size_t i = 1; i < set().size(); ++i) {
+      const auto& one = set()[i - 1];
+      const auto& two = set()[i];
+      const auto a = light::pointAtOpticalPath(one, stepLength * step);
+      const auto b = light::pointAtOpticalPath(two, stepLength * step);
+      if (!a || !b || a->crossed != b->crossed || beforeTheLens(*a)) {
         continue;
       }
-      const auto piece =
-          static_cast<std::size_t>(a->region == poreiaaktinon::Region::Glass ? 1 : 2);
-      const Point da = one.directions[piece];
-      const Point db = two.directions[piece];
+      const std::size_t piece = a->crossed[1] == light::Side::None ? 1 : 2;
+      const Point da = one.pieces[piece].direction;
+      const Point db = two.pieces[piece].direction;
       const Point join{b->position.x - a->position.x, b->position.y - a->position.y};
       const double length = std::hypot(join.x, join.y);
       if (length < 0.5) continue;  // at the focus
@@ -176,15 +179,15 @@ TEST_F(AnimationFrontTest, FrontsStaySquareToTheirRaysInAndBehindTheLens) {
 }
 
 TEST_F(AnimationFrontTest, CircularFrontsAreCirclesAboutTheSourceBeforeTheLens) {
-  press(-260.0, 70.0, Key::Shift);
+  press(-260.0, 70.0, Qt::ShiftModifier);
   release(-260.0, 70.0);
   c.kymatachronika.trigger();
   for (const int step : {1, 20, 60}) {
-    const Front f = front(step);
+    const poreiaaktinon::Front f = front(step);
     EXPECT_GT(f.points.size(), 0U);
-    for (const auto& path : set().rays) {
-      const auto p = poreiaaktinon::pointAtOpticalPath(path, stepLength * step);
-      if (!p || p->region != poreiaaktinon::Region::BeforeLens) continue;
+    for (const auto& path : set()) {
+      const auto p = light::pointAtOpticalPath(path, stepLength * step);
+      if (!p || !beforeTheLens(*p)) continue;
       EXPECT_NEAR(std::hypot(p->position.x + 260.0, p->position.y - 70.0), stepLength * step,
                   tolerance);
     }
@@ -192,14 +195,14 @@ TEST_F(AnimationFrontTest, CircularFrontsAreCirclesAboutTheSourceBeforeTheLens) 
 }
 
 TEST_F(AnimationFrontTest, ARingOfRaysIsAClosedFrontAndABundleAnOpenOne) {
-  press(-260.0, 20.0, Key::Shift);
+  press(-260.0, 20.0, Qt::ShiftModifier);
   release(-260.0, 20.0);
   c.kymatachronika.trigger();
-  const Front ring = front(10);
+  const poreiaaktinon::Front ring = front(10);
   EXPECT_EQ(ring.points.size(), 76U);
   EXPECT_EQ(ring.pieces.size(), 76U);
   c.parallilakymata.trigger();
-  const Front open = front(10);
+  const poreiaaktinon::Front open = front(10);
   EXPECT_EQ(open.points.size(), 21U);
   EXPECT_EQ(open.pieces.size(), 20U);
 }
@@ -207,7 +210,8 @@ TEST_F(AnimationFrontTest, ARingOfRaysIsAClosedFrontAndABundleAnOpenOne) {
 TEST_F(AnimationFrontTest, NeighboursOnDifferentSidesOfAFaceAreNotJoined) {
   c.desmi1.Value(150);
   c.parallilakymata.trigger();
-  const Front entering = front(58);  // the axis is in the glass, the rim is not reached yet
+  const poreiaaktinon::Front entering =
+      front(58);  // the axis is in the glass, the rim is not reached yet
   EXPECT_EQ(entering.points.size(), 151U);
   EXPECT_EQ(entering.pieces.size(), 148U);
 }

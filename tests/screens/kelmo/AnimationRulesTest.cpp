@@ -22,22 +22,22 @@ class AnimationRulesTest : public AnimationTest {
 };
 
 TEST_F(AnimationRulesTest, PlaneWavesRunTheSecondTimerOnAFreshScene) {
-  screen.canvas().Line(-390.0, 100.0, -250.0, 190.0, RGB(1, 2, 3));
+  clutter();
   c.parallilakymata.trigger();
   expectTimers(false, 2000, true, 1);
   EXPECT_FALSE(clockOf(c.Timer1).running);
   EXPECT_TRUE(clockOf(c.Timer2).running);
-  EXPECT_EQ(screen.animation().set().rays.size(), 21U);
+  EXPECT_EQ(set().size(), 21U);
   EXPECT_TRUE(showsStep(0, false));
 }
 
 TEST_F(AnimationRulesTest, WavesInTimeRunTheFirstTimerOnAFreshScene) {
-  screen.canvas().Line(-390.0, 100.0, -250.0, 190.0, RGB(1, 2, 3));
+  clutter();
   c.kymatachronika.trigger();
   expectTimers(true, 1, false, 2000);
   EXPECT_TRUE(clockOf(c.Timer1).running);
   EXPECT_FALSE(clockOf(c.Timer2).running);
-  EXPECT_EQ(screen.animation().set().rays.size(), 76U);
+  EXPECT_EQ(set().size(), 76U);
   EXPECT_TRUE(showsStep(0, true));
 }
 
@@ -122,7 +122,7 @@ TEST_F(AnimationRulesTest, AfterABundleTheFirstTickDrawsOneStepAndTheSecondStops
 
 TEST_F(AnimationRulesTest, WithOnlyWavesTheFirstTimerDrawsOneStepOfTheFanAndStops) {
   c.Check2.Value(true);
-  press(-260.0, 70.0, Key::Shift);
+  press(-260.0, 70.0, Qt::ShiftModifier);
   EXPECT_EQ(c.Timer2.Interval(), 11500);
   EXPECT_FALSE(tick(c.Timer2));
   EXPECT_FALSE(tick(c.Timer1)) << "its interval is still 0";
@@ -167,23 +167,23 @@ TEST_F(AnimationRulesTest, AnEntryChosenAgainStartsAnew) {
 
 TEST_F(AnimationRulesTest, PlaneWavesStandAtTheAngleOfTheLastBundle) {
   c.parallilakymata.trigger();
-  EXPECT_NEAR(screen.animation().set().rays[0].directions[0].y, 0.0, 1e-12);
+  EXPECT_NEAR(set()[0].pieces[0].direction.y, 0.0, 1e-12);
   sendBundle("30");
   c.desmi1.Value(50);
   c.parallilakymata.trigger();
-  EXPECT_EQ(screen.animation().set().rays.size(), 51U);
-  for (const auto& ray : screen.animation().set().rays) {
-    EXPECT_NEAR(ray.directions[0].y, 0.5, 1e-12);
+  EXPECT_EQ(set().size(), 51U);
+  for (const auto& ray : set()) {
+    EXPECT_NEAR(ray.pieces[0].direction.y, 0.5, 1e-12);
   }
 }
 
 TEST_F(AnimationRulesTest, WavesInTimeLeaveThePlacedSource) {
-  press(-260.0, 70.0, Key::Shift);
+  press(-260.0, 70.0, Qt::ShiftModifier);
   release(-260.0, 70.0);
   c.kymatachronika.trigger();
-  for (const auto& ray : screen.animation().set().rays) {
-    EXPECT_EQ(ray.points[0].x, -260.0);
-    EXPECT_EQ(ray.points[0].y, 70.0);
+  for (const auto& ray : set()) {
+    EXPECT_EQ(ray.start().x, -260.0);
+    EXPECT_EQ(ray.start().y, 70.0);
     EXPECT_EQ(ray.phase, 0.0);
   }
 }
@@ -209,7 +209,7 @@ TEST_F(AnimationRulesTest, Exactly1501RaysMove) {
   c.arvimaton.Value(10);
   c.desmi1.Value(131);
   EXPECT_NO_THROW(c.kymatachronika.trigger());
-  EXPECT_EQ(screen.animation().set().rays.size(), 1501U);
+  EXPECT_EQ(set().size(), 1501U);
   EXPECT_EQ(ticks(c.Timer1, 3), 3);
   EXPECT_TRUE(showsStep(3, true));
 }
@@ -218,7 +218,7 @@ TEST_F(AnimationRulesTest, TheLargestBundleMoves) {
   c.arvimaton.Value(5);
   c.desmi1.Value(150);
   EXPECT_NO_THROW(c.parallilakymata.trigger());
-  EXPECT_EQ(screen.animation().set().rays.size(), 151U);
+  EXPECT_EQ(set().size(), 151U);
 }
 
 }  // namespace

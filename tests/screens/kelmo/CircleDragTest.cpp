@@ -6,25 +6,17 @@ namespace {
 
 class CircleDragTest : public KelmoTest {
  protected:
-  static Point centreOf(const Shape& shape) {
-    return {shape.Left() + shape.Width() / 2.0, shape.Top() - shape.Height() / 2.0};
-  }
   void expectNoPreview() {
     EXPECT_FALSE(c.Shape1.Visible());
     EXPECT_FALSE(c.Shape2.Visible());
     EXPECT_FALSE(c.draggedEdge.Visible());
   }
-  ::testing::AssertionResult showsSceneOnly() {
-    const QImage shown = picture();
-    return samePicture(shown, freshScene());
-  }
-  void scribble() { screen.canvas().Line(-390.0, 100.0, -250.0, 190.0, RGB(1, 2, 3)); }
 };
 
 TEST_F(CircleDragTest, TheLeftCentreGoesToTheNearestWholeNumberLeftOfTheOrigin) {
   dragFromTo({-50.0, 0.0}, {-83.25, 40.0});
   EXPECT_EQ(c.kentrokykloy2.Value(), -83);
-  EXPECT_EQ(screen.xc1.value(), -83.0);
+  EXPECT_EQ(screen.xc1(), -83.0);
   EXPECT_TRUE(showsSceneOnly());
   dragFromTo({-83.0, 0.0}, {-30.5, 0.0});
   EXPECT_EQ(c.kentrokykloy2.Value(), -30);
@@ -93,7 +85,7 @@ TEST_F(CircleDragTest, TheMarkerOfTheDraggedCentreIsCentredOnTheMouseAndGoneAfte
 
 TEST_F(CircleDragTest, AMoveWithoutAPressShowsNothing) {
   const auto before = state();
-  drag(-50.0, 0.0, Qt::NoButton);
+  drag(-50.0, 0.0);
   EXPECT_EQ(state(), before);
 }
 
@@ -157,11 +149,45 @@ TEST_F(CircleDragTest, TheDraggedEdgeIsSeenAsADottedCircleThroughTheMouse) {
   EXPECT_EQ(c.aktina2.Value(), 120);
 }
 
+TEST_F(CircleDragTest, AnEdgeTakenFromBesideItFollowsTheMouseByThatDistance) {
+  press(106.0, 5.0);
+  drag(106.5, 5.0);
+  EXPECT_NEAR(c.draggedEdge.Width(), 180.0, 1e-9) << "no jump";
+  drag(136.0, 5.0);
+  EXPECT_NEAR(c.draggedEdge.Left(), 20.0 - 120.0, 1e-9);
+  EXPECT_NEAR(c.draggedEdge.Top(), 120.0, 1e-9);
+  release(136.0, 5.0);
+  EXPECT_EQ(c.aktina2.Value(), 120);
+}
+
+TEST_F(CircleDragTest, TheHighestPlaceOfADraggedEdgeIsTheLargestRadius) {
+  press(110.0, 0.0);
+  drag(900.0, 0.0);
+  EXPECT_NEAR(c.draggedEdge.Top(), 500.0, 1e-9);
+  EXPECT_NEAR(c.draggedEdge.Left(), -480.0, 1e-9);
+  EXPECT_NEAR(c.draggedEdge.Height(), 1000.0, 1e-9);
+  release(900.0, 0.0);
+  EXPECT_EQ(c.aktina2.Value(), 500);
+}
+
+TEST_F(CircleDragTest, ASmallCircleIsEnlargedAndMoved) {
+  c.HScroll1.Value(50);
+  for (const int radius : {0, 1, 3}) {
+    c.aktina2.Value(radius);
+    dragFromTo({25.0, 0.0}, {65.0, 0.0});
+    EXPECT_EQ(c.aktina2.Value(), radius + 40);
+    c.aktina2.Value(radius);
+    dragFromTo({20.0, 0.0}, {30.0, 0.0});
+    EXPECT_EQ(c.kentrokykloy.Value(), 30);
+    c.kentrokykloy.Value(20);
+  }
+}
+
 TEST_F(CircleDragTest, AReleaseThatChangesNoValueClearsAndDrawsAllTheSame) {
   const Point grips[] = {{-50.0, 0.0}, {20.0, 0.0}, {110.0, 0.0}, {-150.0, 0.0}};
   for (const Point grip : grips) {
     press(grip.x, grip.y);
-    scribble();
+    clutter();
     release(grip.x, grip.y);
     EXPECT_TRUE(showsSceneOnly()) << grip.x;
   }
@@ -169,7 +195,7 @@ TEST_F(CircleDragTest, AReleaseThatChangesNoValueClearsAndDrawsAllTheSame) {
 
 TEST_F(CircleDragTest, AnotherButtonPressedDuringADragDoesNotEndIt) {
   press(20.0, 0.0);
-  press(100.0, 50.0, Key::None, Qt::RightButton);
+  press(100.0, 50.0, Qt::NoModifier, Qt::RightButton);
   release(100.0, 50.0, Qt::RightButton);
   EXPECT_EQ(c.kentrokykloy.Value(), 20);
   release(60.0, 0.0);

@@ -18,14 +18,15 @@ class DiaphragmTest : public KelmoTest {
     EXPECT_NEAR(c.Line2.Y1(), edges().lower, 1e-9);
     EXPECT_NEAR(c.Line2.Y2(), yB, 1e-9);
   }
+  Point at(int pixelX, int pixelY) {
+    return screen.canvas().mapping().toUser(
+        {static_cast<double>(pixelX), static_cast<double>(pixelY)});
+  }
+  // Of a blade end that no label stands above.
+  double lowest() { return at(0, c.HScroll1.y()).y + 3.0; }
   void expectTexts(const char* opening, const char* place) {
     EXPECT_EQ(c.Text3.Text(), QString("οπή διαφράγματος =") + opening);
     EXPECT_EQ(c.Text4.Text(), QString("Θέση διαφράγματος") + place);
-  }
-  void scribble() { screen.canvas().Line(-390.0, 100.0, -250.0, 190.0, RGB(1, 2, 3)); }
-  ::testing::AssertionResult showsSceneOnly() {
-    const QImage shown = picture();
-    return samePicture(shown, freshScene());
   }
 };
 
@@ -87,14 +88,13 @@ TEST_F(DiaphragmTest, OnlyTheUpperSliderRecoloursItsBlade) {
 
 TEST_F(DiaphragmTest, EverySliderClearsAndDrawsTheSceneAnew) {
   for (ScrollBar* slider : {&c.HScroll1, &c.VScroll2}) {
-    scribble();
+    clutter();
     slider->Value(slider->Value() + 20);
     EXPECT_TRUE(showsSceneOnly()) << slider->objectName().toStdString();
   }
-  scribble();
+  clutter();
   c.VScroll1.Value(-20);
   EXPECT_TRUE(showsSceneOnly());
-  EXPECT_EQ(screen.canvas().DrawWidth(), 1);
 }
 
 TEST_F(DiaphragmTest, TheBladesStandAboveThePictureAndLeaveItAlone) {
@@ -127,7 +127,7 @@ TEST_F(DiaphragmTest, TheBladeIsSeenMovingBeforeItIsReleased) {
 }
 
 TEST_F(DiaphragmTest, SlidersGoToTheNearestValueAndLeaveTheBladeWhereItIs) {
-  scribble();
+  clutter();
   dragFromTo({0.0, 100.0}, {61.0, 33.25});
   expectBlades(61.0, 33.25, 0.0);
   EXPECT_EQ(c.HScroll1.Value(), 15);   // 15.25 %
@@ -161,15 +161,39 @@ TEST_F(DiaphragmTest, AnEndStopsAtTheOtherEnd) {
   EXPECT_EQ(c.VScroll1.Value(), -20);
 }
 
-TEST_F(DiaphragmTest, EndsAndPlaceStayInTheDrawingArea) {
-  dragFromTo({0.0, 100.0}, {450.0, 260.0});
-  expectBlades(400.0, 200.0, 0.0);
-  EXPECT_EQ(c.HScroll1.Value(), 100);
-  EXPECT_EQ(c.VScroll1.Value(), -100);
-  dragFromTo({398.0, -100.0}, {-450.0, -260.0});
-  expectBlades(-400.0, 200.0, -200.0);
-  EXPECT_EQ(c.HScroll1.Value(), -100);
-  EXPECT_EQ(c.VScroll2.Value(), 100);
+TEST_F(DiaphragmTest, ReleasedEndsAndPlaceStayThreeUnitsInsideWhatNoControlCovers) {
+  dragFromTo({0.0, 100.0}, {0.0, 260.0});
+  expectBlades(0.0, 197.0, 0.0);
+  EXPECT_EQ(c.VScroll1.Value(), -99);  // 98.5 %
+  dragFromTo({0.0, -100.0}, {0.0, -260.0});
+  expectBlades(0.0, 197.0, lowest());
+  dragFromTo({0.0, 0.0}, {450.0, 0.0});
+  const double rightmost = at(c.VScroll1.x(), 0).x - 3.0;
+  expectBlades(rightmost, 197.0, lowest());
+  dragFromTo({rightmost, 0.0}, {-450.0, 0.0});
+  expectBlades(-397.0, 197.0, lowest());
+  EXPECT_EQ(c.HScroll1.Value(), -99);
+}
+
+TEST_F(DiaphragmTest, AReleasedEndStaysClearOfTheControlsAboveAndBelowIt) {
+  for (const double x : {-390.0, -300.0, -150.0, 150.0, 350.0, 385.0}) {
+    SCOPED_TRACE(x);
+    dragFromTo({blades().X, blades().yA + 1.0}, {x, 195.0});
+    dragFromTo({x, blades().yB - 1.0}, {x, -195.0});
+    for (const Point end : {Point{x, blades().yA}, Point{x, blades().yB}}) {
+      const Point pixel = screen.canvas().mapping().toPixel(end);
+      for (const QWidget* control :
+           screen.drawingArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const QRectF near = QRectF(control->geometry()).adjusted(-5.9, -5.9, 5.9, 5.9);
+        EXPECT_FALSE(control->isVisible() && near.contains(pixel.x, pixel.y))
+            << control->objectName().toStdString();
+      }
+    }
+    // They can be taken again.
+    dragFromTo({x, blades().yA}, {x, 20.0});
+    dragFromTo({x, blades().yB}, {x, -20.0});
+    expectBlades(x, 20.0, -20.0);
+  }
 }
 
 class WholeDiaphragmTest : public DiaphragmTest {
@@ -201,9 +225,9 @@ TEST_F(WholeDiaphragmTest, MovesDownInTenthsOfTheHeightWhenReleasedBelowTheLower
   expectBlades(-100.0, -60.0, -160.0);  // two steps
 }
 
-TEST_F(WholeDiaphragmTest, StopsAtTheLowerEdge) {
+TEST_F(WholeDiaphragmTest, StopsAboveTheLowerScrollBar) {
   dragFromTo({-120.0, 10.0}, {-120.0, -230.0});
-  expectBlades(-120.0, -100.0, -200.0);
+  expectBlades(-120.0, lowest() + 100.0, lowest());
   expectTexts("100", "-120");
 }
 

@@ -12,8 +12,8 @@ void PrintTo(Grab grab, std::ostream* out) { *out << "Grab " << static_cast<int>
 
 namespace {
 
+using light::Edges;
 using poreiaaktinon::Diafragma;
-using poreiaaktinon::Edges;
 using poreiaaktinon::Fakos;
 
 // 480 x 240 units: the margins of the blades are 4 units to each side and 2 beyond their ends.
@@ -79,8 +79,32 @@ TEST(GrabTest, ACentreIsTakenWithinEightUnits) {
   }
 }
 
-TEST(GrabTest, WhereBothCentresAreInReachTheLeftOneIsTaken) {
-  EXPECT_EQ(at(2.0, 0.0, far, {-2.0, 100.0, 2.0, 90.0}), Grab::LeftCentre);
+TEST(GrabTest, OfTwoCentresInReachTheNearerIsTaken) {
+  const Fakos close{-2.0, 100.0, 2.0, 90.0};
+  EXPECT_EQ(at(2.0, 0.0, far, close), Grab::RightCentre);
+  EXPECT_EQ(at(0.1, 3.0, far, close), Grab::RightCentre);
+  EXPECT_EQ(at(-0.1, 3.0, far, close), Grab::LeftCentre);
+  EXPECT_EQ(at(-9.0, 0.0, far, close), Grab::LeftCentre);
+}
+
+TEST(GrabTest, OfACentreAndAnEdgeTheNearerIsTaken) {
+  const Fakos small{-50.0, 100.0, 20.0, 10.0};
+  EXPECT_EQ(at(24.0, 0.0, far, small), Grab::RightCentre);
+  EXPECT_EQ(at(26.0, 0.0, far, small), Grab::RightEdge);
+  EXPECT_EQ(at(15.5, 0.0, far, small), Grab::RightCentre);
+  EXPECT_EQ(at(14.0, 0.0, far, small), Grab::RightEdge);
+  const Fakos edgeByCentre{-50.0, 73.0, 20.0, 90.0};  // circle 1 runs through (23, 0)
+  EXPECT_EQ(at(21.0, 0.0, far, edgeByCentre), Grab::RightCentre);
+  EXPECT_EQ(at(22.0, 0.0, far, edgeByCentre), Grab::LeftEdge);
+}
+
+TEST(GrabTest, TheSmallestCirclesCanBeMovedAndEnlarged) {
+  for (const double radius : {0.0, 1.0, 2.0}) {
+    const Fakos small{-50.0, 100.0, 20.0, radius};
+    EXPECT_EQ(at(20.0, 0.0, far, small), Grab::RightCentre) << radius;
+    EXPECT_EQ(at(25.0, 0.0, far, small), Grab::RightEdge) << radius;
+    EXPECT_EQ(at(15.0, 0.0, far, small), Grab::RightEdge) << radius;
+  }
 }
 
 TEST(GrabTest, CentresThatCoincideAreToldApartByTheSideOfThePress) {
@@ -147,12 +171,59 @@ TEST(GrabTest, AReleasedCentreStaysOnItsSideAndInItsRange) {
 }
 
 TEST(GrabTest, AReleasedRadiusIsClampedThenCutToAWholeNumber) {
-  EXPECT_EQ(releasedRadius(150.0, 20.0, 0, 500), 130);
-  EXPECT_EQ(releasedRadius(-110.0, 20.0, 0, 500), 130);
-  EXPECT_EQ(releasedRadius(150.9, 20.0, 0, 500), 130);
-  EXPECT_EQ(releasedRadius(20.0, 20.0, 0, 500), 0);
-  EXPECT_EQ(releasedRadius(-50.0 + 49.99, -50.0, 50, 500), 50);
-  EXPECT_EQ(releasedRadius(1e12, -50.0, 50, 500), 500);
+  const auto released = [](double x) { return releasedRadius(90, 20.0, 110.0, x, 0, 500); };
+  EXPECT_EQ(released(150.0), 130);
+  EXPECT_EQ(released(-110.0), 130);
+  EXPECT_EQ(released(150.9), 130);
+  EXPECT_EQ(released(20.0), 0);
+  EXPECT_EQ(released(1e12), 500);
+  EXPECT_EQ(releasedRadius(100, -50.0, 50.0, -50.0 + 49.99, 50, 500), 50);
+}
+
+TEST(GrabTest, AnEdgeKeepsTheDistanceAtWhichItWasTaken) {
+  for (const double beside : {-6.0, -0.3, 0.0, 4.7}) {
+    const double taken = 110.0 + beside;
+    EXPECT_EQ(releasedRadius(90, 20.0, taken, taken, 0, 500), 90) << beside;
+    EXPECT_EQ(releasedRadius(90, 20.0, taken, taken + 10.25, 0, 500), 100) << beside;
+    EXPECT_EQ(releasedRadius(90, 20.0, taken, taken - 10.0, 0, 500), 80) << beside;
+  }
+  EXPECT_EQ(releasedRadius(0, 20.0, 25.0, 45.5, 0, 500), 20);
+}
+
+// An area of 480 x 240 units with bars along its lower and its right edge and boxes at the top.
+const Room room{edges,
+                {{-240.0, 240.0, -120.0, -111.0},
+                 {231.0, 240.0, 0.0, 120.0},
+                 {231.0, 240.0, -111.0, 0.0},
+                 {-230.0, -150.0, 100.0, 115.0},
+                 {-230.0, -150.0, 80.0, 95.0}}};
+
+TEST(ReachTest, LeavesThreeUnitsToEdgesAndControls) {
+  const Edges middle = reachAt(0.0, room);
+  EXPECT_EQ(middle, (Edges{-237.0, 228.0, -108.0, 117.0}));
+  EXPECT_EQ(reachAt(-200.0, room).upper, 77.0);
+  EXPECT_EQ(reachAt(-152.0, room).upper, 77.0);
+  EXPECT_EQ(reachAt(-147.5, room).upper, 77.0) << "a blade has a width";
+  EXPECT_EQ(reachAt(-146.0, room).upper, 117.0);
+  EXPECT_EQ(reachAt(1e6, room), middle) << "as far as the diaphragm goes";
+}
+
+TEST(ReachTest, AReleasedDiaphragmStaysWithinIt) {
+  const Diafragma open{0.0, 50.0, -50.0};
+  const auto let = [&](Grab grab, Point p) { return releasedDiaphragm(grab, p, open, room); };
+  EXPECT_EQ(let(Grab::LowerBlade, {0.0, -500.0}), (Diafragma{0.0, 50.0, -108.0}));
+  EXPECT_EQ(let(Grab::UpperBlade, {0.0, 500.0}), (Diafragma{0.0, 117.0, -50.0}));
+  EXPECT_EQ(let(Grab::UpperBlade, {-200.0, 90.0}), (Diafragma{-200.0, 77.0, -50.0}));
+  EXPECT_EQ(let(Grab::UpperBlade, {500.0, 60.0}), (Diafragma{228.0, 60.0, -50.0}));
+  EXPECT_EQ(let(Grab::LowerBlade, {-500.0, 60.0}), (Diafragma{-237.0, 50.0, 50.0}));
+  EXPECT_EQ(let(Grab::Diaphragm, {10.0, -500.0}), (Diafragma{10.0, -8.0, -108.0}));
+  EXPECT_EQ(let(Grab::Diaphragm, {10.0, -51.0}), (Diafragma{10.0, 26.0, -74.0}));
+}
+
+TEST(ReachTest, AReleasedSourceStaysWithinIt) {
+  const Point p = releasedSource({-200.0, 300.0}, room);
+  EXPECT_EQ(p.x, -200.0);
+  EXPECT_EQ(p.y, 77.0);
 }
 
 }  // namespace

@@ -6,28 +6,20 @@
 #include <QLocale>
 #include <QMouseEvent>
 
-#include "optics/protosfakos/SahlState.h"
+#include "optics/poreiaaktinon/RayDrawing.h"
 
 namespace lensbench {
 
-HandClocks::HandClocks() {
-  useTickSources([this] {
-    auto clock = std::make_unique<HandTicks>();
-    made.push_back(clock.get());
-    return clock;
-  });
-}
-
 KelmoTest::KelmoTest() {
   QLocale::setDefault(QLocale::c());
-  protosfakos::state().desmiMode = false;
   screen.canvas().setOversampling(1);
   screen.setWindowState(Qt::WindowNoState);
   screen.show();
+  QApplication::processEvents();
   giveSize(usualSize);
+  // Larger than the display, but not out of its reach: it is not fitted to it when it comes back.
+  screen.move(-usualSize.width() / 4, 0);
 }
-
-KelmoTest::~KelmoTest() { poreiaaktinon::connectWorkbench({}); }
 
 void KelmoTest::giveSize(QSize client) {
   screen.resize(screen.size() + client - screen.drawingArea()->size());
@@ -35,25 +27,24 @@ void KelmoTest::giveSize(QSize client) {
 }
 
 void KelmoTest::send(QEvent::Type type, double x, double y, Qt::MouseButton button,
-                     Qt::MouseButtons held, Key key) {
+                     Qt::KeyboardModifiers keys) {
   const Point pixel = screen.canvas().mapping().toPixel({x, y});
   const QPointF local(pixel.x, pixel.y);
   QWidget* const area = screen.drawingArea();
-  QMouseEvent event(type, local, area->mapToGlobal(local), button, held,
-                    key == Key::Shift ? Qt::ShiftModifier : Qt::NoModifier);
+  QMouseEvent event(type, local, area->mapToGlobal(local), button, held_, keys);
   QApplication::sendEvent(area, &event);
 }
 
-void KelmoTest::press(double x, double y, Key key, Qt::MouseButton button) {
-  send(QEvent::MouseButtonPress, x, y, button, button, key);
+void KelmoTest::press(double x, double y, Qt::KeyboardModifiers keys, Qt::MouseButton button) {
+  held_ |= button;
+  send(QEvent::MouseButtonPress, x, y, button, keys);
 }
 
-void KelmoTest::drag(double x, double y, Qt::MouseButton button) {
-  send(QEvent::MouseMove, x, y, Qt::NoButton, button, Key::None);
-}
+void KelmoTest::drag(double x, double y) { send(QEvent::MouseMove, x, y, Qt::NoButton); }
 
 void KelmoTest::release(double x, double y, Qt::MouseButton button) {
-  send(QEvent::MouseButtonRelease, x, y, button, Qt::NoButton, Key::None);
+  held_ &= ~button;
+  send(QEvent::MouseButtonRelease, x, y, button);
 }
 
 void KelmoTest::dragFromTo(Point from, Point to) {
@@ -63,7 +54,7 @@ void KelmoTest::dragFromTo(Point from, Point to) {
 }
 
 const HandTicks& KelmoTest::clockOf(const Timer& timer) const {
-  return *clocks.made.at(&timer == &c.Timer1 ? 0 : 1);
+  return *program.clock.made.at(&timer == &c.Timer1 ? 0 : 1);
 }
 
 bool KelmoTest::tick(const Timer& timer) {
@@ -89,16 +80,45 @@ void KelmoTest::sendBundle(const QString& angle) {
   c.EPANALIPSI.trigger();
 }
 
-QImage KelmoTest::freshScene() {
-  screen.canvas().Cls();
-  screen.arxinizo();
-  return picture();
+QImage KelmoTest::drawn(const poreiaaktinon::Shown& shown,
+                        const std::function<void(Canvas&)>& over) {
+  const RasterCanvas& like = screen.canvas();
+  RasterCanvas canvas(like.size(), like.devicePixelRatio(), like.oversampling());
+  canvas.BackColor(like.BackColor());
+  const light::Edges e = edges();
+  canvas.Scale(e.left, e.upper, e.right, e.lower);
+  draw(canvas, shown);
+  if (over) over(canvas);
+  return canvas.image().copy();
+}
+
+void KelmoTest::drawRay(Canvas& canvas, Point start, Point direction,
+                        poreiaaktinon::Provoli provoli, double phase) {
+  const auto sent =
+      poreiaaktinon::send(screen.bench(), poreiaaktinon::SingleRay{start, direction}, edges());
+  light::RayPath path = sent.paths->front();
+  path.phase = phase;
+  if (provoli.rays) poreiaaktinon::drawPath(canvas, path);
+  if (provoli.waves) poreiaaktinon::drawWavePoints(canvas, path);
+}
+
+poreiaaktinon::Shown KelmoTest::sceneAlone() {
+  return {{poreiaaktinon::LensScene{screen.fakos(), screen.n(), screen.pigi()}}};
+}
+
+::testing::AssertionResult KelmoTest::showsSceneOnly() {
+  if (!(screen.shown() == sceneAlone())) return ::testing::AssertionFailure() << "other layers";
+  return samePicture(picture(), drawn(sceneAlone()));
+}
+
+const std::vector<light::RayPath>& KelmoTest::set() {
+  static const std::vector<light::RayPath> none;
+  return screen.set() ? *screen.set()->paths : none;
 }
 
 Rgb KelmoTest::pixelAt(double x, double y) {
   const Point p = screen.canvas().mapping().toPixel({x, y});
-  const QColor colour =
-      screen.canvas().image().pixelColor(static_cast<int>(p.x), static_cast<int>(p.y));
+  const QColor colour = screen.image().pixelColor(static_cast<int>(p.x), static_cast<int>(p.y));
   return RGB(colour.red(), colour.green(), colour.blue());
 }
 
@@ -125,9 +145,11 @@ std::vector<std::string> KelmoTest::state() {
     note(blade->objectName().toStdString(), blade->X1(), blade->Y1(), blade->X2(), blade->Y2(),
          blade->BorderColor().value, blade->BorderWidth());
   }
-  for (const Shape* shape : {&c.pigi, &c.Shape1, &c.Shape2, &c.draggedEdge}) {
-    note(shape->objectName().toStdString(), shape->Left(), shape->Top(), shape->Width(),
-         shape->Height(), shape->Visible());
+  for (const Shape* shape :
+       std::initializer_list<const Shape*>{&c.pigi, &c.Shape1, &c.Shape2, &c.draggedEdge,
+                                           &c.upperBladeMark, &c.lowerBladeMark, &c.sourceMark}) {
+    note(shape->objectName().toStdString(), shape->Visible());
+    if (shape->Visible()) note(shape->Left(), shape->Top(), shape->Width(), shape->Height());
   }
   for (const Timer* timer : {&c.Timer1, &c.Timer2}) {
     note(timer->objectName().toStdString(), timer->Enabled(), timer->Interval(),
@@ -137,16 +159,10 @@ std::vector<std::string> KelmoTest::state() {
                                  &c.kymatachronika, &c.TELIOMA}) {
     note(entry->objectName().toStdString(), entry->Checked(), entry->isEnabled());
   }
-  for (const Variant& v : {screen.R1, screen.R2, screen.xc1, screen.xc2, screen.n, screen.vima,
-                           screen.xpigi, screen.ypigi, screen.gonia}) {
-    note("variable", v.value(), v.isEmpty());
-  }
-  note("desmiMode", protosfakos::state().desmiMode);
-  note("set", screen.animation().set().rays.size());
-  const Canvas& canvas = screen.canvas();
-  note("pen", canvas.DrawWidth(), static_cast<int>(canvas.DrawStyle()),
-       static_cast<int>(canvas.FillStyle()), canvas.FillColor().value, canvas.FontName(),
-       canvas.FontSize(), canvas.CurrentX(), canvas.CurrentY());
+  note("gonia", screen.gonia.value(), screen.gonia.isEmpty());
+  note("desmiMode", shared.desmiMode);
+  note("set", set().size());
+  note("layers", screen.shown().layers.size());
   return lines;
 }
 

@@ -33,7 +33,7 @@ TEST_F(OddPicturesTest, EveryPlaceOfEveryLensBarIsDrawn) {
     for (int value = bar->Min(); value <= bar->Max(); value += 3) bar->Value(value);
     bar->Value(start);
   }
-  EXPECT_TRUE(samePicture(picture(), freshScene()));
+  EXPECT_TRUE(showsSceneOnly());
 }
 
 TEST_F(OddPicturesTest, ALensBeyondTheDrawingAreaFillsNothing) {
@@ -44,6 +44,17 @@ TEST_F(OddPicturesTest, ALensBeyondTheDrawingAreaFillsNothing) {
 TEST_F(OddPicturesTest, TheVisiblePartOfALensIsFilled) {
   setLens(500, -50, 500, 50);  // from -450 to 450
   EXPECT_EQ(pixelAt(100.0, 50.0), RGB(220, 220, 195));
+}
+
+TEST_F(OddPicturesTest, ALensOfWhichOnlyOneEndIsInSightIsFilledThere) {
+  setLens(300, -500, 500, 290);  // from -210 to -200: all in sight
+  EXPECT_EQ(pixelAt(-205.0, 5.0), RGB(220, 220, 195));
+  setLens(150, -500, 500, 0);  // from -500 to -350; the area ends at -400
+  EXPECT_EQ(pixelAt(-360.0, 5.0), RGB(220, 220, 195));
+  EXPECT_EQ(pixelAt(-398.0, 5.0), RGB(220, 220, 195));
+  setLens(500, 0, 150, 500);  // from 350 to 500
+  EXPECT_EQ(pixelAt(360.0, 5.0), RGB(220, 220, 195));
+  EXPECT_EQ(pixelAt(398.0, 5.0), RGB(220, 220, 195));
 }
 
 TEST_F(OddPicturesTest, CirclesThatOnlyTouchAreNoLens) {
@@ -63,10 +74,10 @@ TEST_F(OddPicturesTest, RimLinesInsideTheGlassAreNotEatenByTheFill) {
 
 TEST_F(OddPicturesTest, WithoutALensEveryShiftPressSendsAFan) {
   c.aktina1.Value(500);  // circle 2 lies inside circle 1
-  press(-40.0, 60.0, Key::Shift);
+  press(-40.0, 60.0, Qt::ShiftModifier);
   release(-40.0, 60.0);
-  EXPECT_EQ(screen.xpigi.value(), -40.0);
-  EXPECT_EQ(screen.ypigi.value(), 60.0);
+  EXPECT_EQ(screen.xpigi(), -40.0);
+  EXPECT_EQ(screen.ypigi(), 60.0);
 }
 
 TEST_F(OddPicturesTest, AClickBesideAnEdgeKeepsTheRadius) {
@@ -90,7 +101,7 @@ TEST_F(OddPicturesTest, AShiftFanEndsRunningWavesInTimeAndNothingIsRubbedOutOfIt
   openDiaphragm();
   c.kymatachronika.trigger();
   ASSERT_EQ(ticks(c.Timer1, 100), 100);
-  press(-250.0, 60.0, Key::Shift);
+  press(-250.0, 60.0, Qt::ShiftModifier);
   release(-250.0, 60.0);
   const QImage fan = picture();
   EXPECT_FALSE(tick(c.Timer1));
@@ -102,7 +113,7 @@ TEST_F(OddPicturesTest, AFanOfWavesOnlyPreparesOneStepWhateverRanBefore) {
   c.kymatachronika.trigger();
   ASSERT_EQ(ticks(c.Timer1, 100), 100);
   c.Check2.click();
-  press(-250.0, 60.0, Key::Shift);
+  press(-250.0, 60.0, Qt::ShiftModifier);
   release(-250.0, 60.0);
   EXPECT_EQ(c.Timer1.Interval(), 1500);
   const QImage before = picture();
@@ -134,7 +145,7 @@ TEST_F(OddPicturesTest, SlidersFollowTheBladesThroughAResize) {
   release(390.0, 190.0);
   c.HScroll1.Value(50);
   giveSize({1000, 600});
-  const poreiaaktinon::Edges area = edges();
+  const light::Edges area = edges();
   const double percent =
       (blades().X - (area.left + area.right) / 2.0) / ((area.right - area.left) / 2.0) * 100.0;
   EXPECT_NEAR(c.HScroll1.Value(), std::min(100.0, percent), 0.5);

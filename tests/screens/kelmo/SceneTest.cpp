@@ -5,13 +5,15 @@
 #include <numbers>
 #include <vector>
 
-#include "screens/kelmo/Scene.h"
-#include "tests/unit/poreiaaktinon/FakeWorkbench.h"
+#include "canvas/Recording.h"
+#include "optics/poreiaaktinon/Picture.h"
 
 namespace lensbench {
 namespace {
 
 using poreiaaktinon::Fakos;
+using poreiaaktinon::LensScene;
+using poreiaaktinon::WaveScene;
 using Kind = Operation::Kind;
 using Operations = std::vector<Operation>;
 
@@ -100,6 +102,8 @@ void append(Operations& list, const Operations& more) {
 
 class SceneTest : public ::testing::Test {
  protected:
+  SceneTest() { surface.Scale(-400.0, 200.0, 400.0, -200.0); }
+
   // The lens by school geometry: the chord of the two circles, and the thick-lens formulas.
   struct Numbers {
     double xordi, h, f;          // abscissa of the chord, half-height, thin focal length
@@ -107,25 +111,25 @@ class SceneTest : public ::testing::Test {
     double H1, H2, F1, F2;
   };
   Numbers numbers() const {
-    const Fakos& l = bench.lens;
+    const Fakos& l = lens;
     const double d = l.xc2 - l.xc1;
     const double toChord = (d * d + l.R1 * l.R1 - l.R2 * l.R2) / (2.0 * d);
     const double xordi = l.xc1 + toChord;
     const double h = std::sqrt(l.R1 * l.R1 - toChord * toChord);
-    const double m = bench.n - 1.0;
+    const double m = n - 1.0;
     const double f = 1.0 / (m * (1.0 / l.R1 + 1.0 / l.R2));
     const double V1 = l.xc2 - l.R2;
     const double V2 = l.xc1 + l.R1;
-    const double thick = 1.0 / (m / l.R1 + m / l.R2 - m * m * (V2 - V1) / (bench.n * l.R1 * l.R2));
-    const double H1 = V1 + (V2 - V1) * thick * m / (bench.n * l.R2);
-    const double H2 = V2 - (V2 - V1) * thick * m / (bench.n * l.R1);
+    const double thick = 1.0 / (m / l.R1 + m / l.R2 - m * m * (V2 - V1) / (n * l.R1 * l.R2));
+    const double H1 = V1 + (V2 - V1) * thick * m / (n * l.R2);
+    const double H2 = V2 - (V2 - V1) * thick * m / (n * l.R1);
     return {xordi, h,          f,         std::atan2(h, toChord), std::atan2(h, l.xc2 - xordi), H1,
             H2,    H1 - thick, H2 + thick};
   }
 
   Operations faces() const {
     const Numbers k = numbers();
-    const Fakos& l = bench.lens;
+    const Fakos& l = lens;
     return {arc(l.xc1, l.R1, 2.0 * std::numbers::pi - k.rightHalf,
                 2.0 * std::numbers::pi + k.rightHalf),
             arc(l.xc2, l.R2, std::numbers::pi - k.leftHalf, std::numbers::pi + k.leftHalf)};
@@ -136,11 +140,10 @@ class SceneTest : public ::testing::Test {
             circle(k.xordi + k.f, 3.0, focal, DrawStyle::Solid, fill)};
   }
   Operations centres() const {
-    return {circle(bench.lens.xc1, 3.0, centreMark), circle(bench.lens.xc2, 3.0, centreMark)};
+    return {circle(lens.xc1, 3.0, centreMark), circle(lens.xc2, 3.0, centreMark)};
   }
   Operations fullCircles(DrawStyle style) const {
-    return {circle(bench.lens.xc1, bench.lens.R1, black, style),
-            circle(bench.lens.xc2, bench.lens.R2, black, style)};
+    return {circle(lens.xc1, lens.R1, black, style), circle(lens.xc2, lens.R2, black, style)};
   }
   Operations rimLines() const {
     const double h = numbers().h;
@@ -164,7 +167,7 @@ class SceneTest : public ::testing::Test {
   Operations construction() const {
     const Numbers k = numbers();
     const Rgb cyan = RGB(0, 255, 255);
-    const auto [x, y] = bench.source;
+    const auto [x, y] = source;
     const double y1 = y - (k.H1 - x) * y / (k.F1 - x);
     const double s2 = -y / (k.F2 - k.H2);
     const double s3 = -y / (k.H1 - x);
@@ -189,13 +192,21 @@ class SceneTest : public ::testing::Test {
     return all;
   }
 
-  const Operations& drawn() {
-    bench.surface.forget();
-    drawLensScene(bench);
-    return bench.surface.operations();
+  // What is drawn behind the clearing.
+  Operations drawn() { return drawnWith({{LensScene{lens, n, source}}}); }
+  Operations drawnWith(const poreiaaktinon::Shown& shown) {
+    surface.forget();
+    draw(surface, shown);
+    const Operations& all = surface.operations();
+    EXPECT_EQ(all.at(0).kind, Kind::Cls);
+    return {all.begin() + 1, all.end()};
   }
 
-  poreiaaktinon::FakeWorkbench bench;
+  // The lens, index and source with which the workbench opens.
+  Fakos lens{-50.0, 100.0, 20.0, 90.0};
+  double n = 1.5;
+  Point source{-200.0, 0.0};
+  Recording surface{800.0, 400.0};
 };
 
 TEST_F(SceneTest, TheStartLensIsDrawnInOrderAndFilledFromTheAxis) {
@@ -208,7 +219,7 @@ TEST_F(SceneTest, TheStartLensIsDrawnInOrderAndFilledFromTheAxis) {
 }
 
 TEST_F(SceneTest, ASourceOffTheAxisAddsTheConstructionBetweenMarksAndLabels) {
-  bench.source = {-250.0, 60.0};
+  source = {-250.0, 60.0};
   Operations expected = bodyFilledAt(400.0);
   append(expected, marks());
   append(expected, construction());
@@ -217,8 +228,8 @@ TEST_F(SceneTest, ASourceOffTheAxisAddsTheConstructionBetweenMarksAndLabels) {
 }
 
 TEST_F(SceneTest, AnIndexBelowOneHasAllOfIt) {
-  bench.n = 0.6;
-  bench.source = {-250.0, 60.0};
+  n = 0.6;
+  source = {-250.0, 60.0};
   Operations expected = bodyFilledAt(400.0);
   append(expected, marks());
   append(expected, construction());
@@ -230,13 +241,13 @@ TEST_F(SceneTest, StraightAboveAFocalOrNodalPointThereIsNoConstruction) {
   const Numbers k = numbers();
   const Operations onAxis = drawn();
   for (const double x : {k.F1, k.H1}) {
-    bench.source = {x, 60.0};
+    source = {x, 60.0};
     EXPECT_TRUE(sameInOrder(drawn(), onAxis));
   }
 }
 
 TEST_F(SceneTest, AThinLensIsFilledFromItsMiddle) {
-  bench.lens = {-50.0, 60.0, 45.0, 70.0};  // from -25 to 10
+  lens = {-50.0, 60.0, 45.0, 70.0};  // from -25 to 10
   Operations expected = bodyFilledAt(392.0);
   append(expected, marks());
   append(expected, labels());
@@ -244,7 +255,7 @@ TEST_F(SceneTest, AThinLensIsFilledFromItsMiddle) {
 }
 
 TEST_F(SceneTest, FacesOfMoreThanHalfACircleKeepTheirAngles) {
-  bench.lens = {0.0, 150.0, 100.0, 80.0};  // the chord is right of the centre of circle 2
+  lens = {0.0, 150.0, 100.0, 80.0};  // the chord is right of the centre of circle 2
   ASSERT_GT(numbers().xordi, 100.0);
   ASSERT_GT(numbers().leftHalf, std::numbers::pi / 2.0);
   const Operations ops = drawn();
@@ -252,8 +263,8 @@ TEST_F(SceneTest, FacesOfMoreThanHalfACircleKeepTheirAngles) {
 }
 
 TEST_F(SceneTest, AtIndexOneThereAreNoFocalCirclesAndNoCardinalPoints) {
-  bench.n = 1.0;
-  bench.source = {-250.0, 60.0};
+  n = 1.0;
+  source = {-250.0, 60.0};
   Operations expected = faces();
   append(expected, rimLines());
   append(expected, centres());
@@ -266,58 +277,37 @@ TEST_F(SceneTest, AtIndexOneThereAreNoFocalCirclesAndNoCardinalPoints) {
 }
 
 TEST_F(SceneTest, CirclesThatDoNotCrossLeaveOnlyThemselvesAndTheirCentres) {
-  for (const Fakos& lens : {Fakos{-300.0, 100.0, 300.0, 90.0}, Fakos{0.0, 500.0, 0.0, 90.0},
-                            Fakos{-50.0, 100.0, 20.0, 0.0}}) {
-    bench.lens = lens;
-    bench.source = {-250.0, 60.0};
+  for (const Fakos& apart : {Fakos{-300.0, 100.0, 300.0, 90.0}, Fakos{0.0, 500.0, 0.0, 90.0},
+                             Fakos{-50.0, 100.0, 20.0, 0.0}}) {
+    lens = apart;
+    source = {-250.0, 60.0};
     Operations expected = centres();
     append(expected, fullCircles(DrawStyle::Solid));
     EXPECT_TRUE(sameInOrder(drawn(), expected));
-    EXPECT_EQ(bench.surface.FillColor(), glass);
   }
 }
 
 TEST_F(SceneTest, LeavesAThinSolidPenAndNoFill) {
-  bench.surface.DrawWidth(7);
+  surface.DrawWidth(7);
   drawn();
-  EXPECT_EQ(bench.surface.DrawWidth(), 1);
-  EXPECT_EQ(bench.surface.DrawStyle(), DrawStyle::Solid);
-  EXPECT_EQ(bench.surface.FillStyle(), FillStyle::Transparent);
-  EXPECT_EQ(bench.surface.FillColor(), glass);
-  EXPECT_EQ(bench.surface.FontName(), "Arial");
-  EXPECT_EQ(bench.surface.FontSize(), 10.0);
-  EXPECT_TRUE(bench.surface.operations(Kind::Cls).empty()) << "its callers clear";
+  EXPECT_EQ(surface.DrawWidth(), 1);
+  EXPECT_EQ(surface.DrawStyle(), DrawStyle::Solid);
+  EXPECT_EQ(surface.FillStyle(), FillStyle::Transparent);
+  EXPECT_EQ(surface.FillColor(), glass);
+  EXPECT_EQ(surface.FontName(), "Arial");
+  EXPECT_EQ(surface.FontSize(), 10.0);
 }
 
-TEST_F(SceneTest, TheSceneUnderMovingWavesIsClearedDottedAndNotFilled) {
-  drawLensScene(bench);
-  bench.surface.forget();
-  drawWaveScene(bench);
-  Operation cleared;
-  cleared.colour = white;
-  Operations expected{cleared};
-  append(expected, focalCircles(glass));
+TEST_F(SceneTest, TheSceneUnderMovingWavesIsDottedAndNotFilled) {
+  drawn();
+  const Operations ops = drawnWith({{WaveScene{lens, n}}});
+  Operations expected = focalCircles(glass);
   append(expected, fullCircles(DrawStyle::Dotted));
   append(expected, faces());
-  EXPECT_TRUE(sameInOrder(bench.surface.operations(), expected));
-  EXPECT_EQ(bench.surface.DrawWidth(), 1);
-  EXPECT_EQ(bench.surface.DrawStyle(), DrawStyle::Solid);
-  EXPECT_EQ(bench.surface.FillStyle(), FillStyle::Transparent);
-}
-
-TEST_F(SceneTest, MendingTheSceneUnderMovingWavesDrawsTheSameWithoutClearing) {
-  drawWaveScene(bench);
-  Operations whole = bench.surface.operations();
-  bench.surface.forget();
-  redrawWaveScene(bench.surface, lensScene(bench));
-  whole.erase(whole.begin());
-  EXPECT_TRUE(sameInOrder(bench.surface.operations(), whole));
-}
-
-TEST_F(SceneTest, TheUpperBladeHidesNothingOfTheFaces) {
-  const Operations open = drawn();
-  bench.opening = {-40.0, 10.0, -10.0};
-  EXPECT_TRUE(sameInOrder(drawn(), open));
+  EXPECT_TRUE(sameInOrder(ops, expected));
+  EXPECT_EQ(surface.DrawWidth(), 1);
+  EXPECT_EQ(surface.DrawStyle(), DrawStyle::Solid);
+  EXPECT_EQ(surface.FillStyle(), FillStyle::Transparent);
 }
 
 }  // namespace

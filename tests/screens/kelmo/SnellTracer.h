@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "canvas/Canvas.h"
-#include "optics/poreiaaktinon/Workbench.h"
+#include "optics/poreiaaktinon/Bench.h"
 
 namespace lensbench::snell {
 

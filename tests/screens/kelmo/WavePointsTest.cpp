@@ -5,12 +5,11 @@
 #include <map>
 #include <vector>
 
-#include "optics/poreiaaktinon/Bundles.h"
+#include "canvas/Recording.h"
 #include "optics/poreiaaktinon/Numbers.h"
-#include "optics/poreiaaktinon/Tracing.h"
+#include "optics/poreiaaktinon/RayDrawing.h"
 #include "tests/screens/kelmo/KelmoTest.h"
 #include "tests/screens/kelmo/SnellTracer.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench {
 namespace {
@@ -36,15 +35,14 @@ class WavePointsTest : public KelmoTest {
   // What the screen draws for each ray of its set, beside the same ray by school geometry.
   std::vector<Wave> waves() {
     const UserMapping m = screen.canvas().mapping();
-    RecordingCanvas recorder(usualSize.width(), usualSize.height());
+    Recording recorder(usualSize.width(), usualSize.height());
     recorder.Scale(m.left, m.top, -m.left, -m.top);
     std::vector<Wave> all;
-    for (const auto& path : screen.animation().set().rays) {
+    for (const auto& path : set()) {
       recorder.forget();
       poreiaaktinon::drawWavePoints(recorder, path);
       Wave wave;
-      wave.ray = snell::trace(screen.workbench().fakos(), screen.workbench().deiktisdiathlasis(),
-                              path.points[0], path.directions[0]);
+      wave.ray = snell::trace(screen.fakos(), screen.n(), path.start(), path.pieces[0].direction);
       wave.phase = path.phase;
       for (const Operation& op : recorder.operations()) {
         EXPECT_EQ(op.kind, Operation::Kind::PSet);
@@ -114,7 +112,7 @@ TEST_F(WavePointsTest, PointsOfABundleLieOnTheirRaysAtEqualOpticalPaths) {
 TEST_F(WavePointsTest, PointsOfAFanAreCountedFromItsSource) {
   c.desmi1.Value(60);
   for (const Point source : {Point{-260.0, 70.0}, Point{-300.0, 0.0}, Point{150.0, -40.0}}) {
-    press(source.x, source.y, Key::Shift);
+    press(source.x, source.y, Qt::ShiftModifier);
     release(source.x, source.y);
     const std::vector<Wave> all = waves();
     EXPECT_EQ(all.size(), 229U);
@@ -166,11 +164,11 @@ TEST_F(WavePointsTest, NeighbouringPointsInTheGlassAreCloserByTheIndex) {
 TEST_F(WavePointsTest, NoPointIsMissingInTheDrawingArea) {
   c.desmi1.Value(40);
   sendBundle("20");
-  const poreiaaktinon::Edges e = edges();
-  const auto& paths = screen.animation().set().rays;
+  const light::Edges e = edges();
+  const auto& paths = set();
   const std::vector<Wave> all = waves();
   for (std::size_t i = 0; i < all.size(); ++i) {
-    if (paths[i].ending != poreiaaktinon::Ending::Edge) continue;
+    if (paths[i].ending != light::Ending::Open) continue;
     std::size_t expected = 0;
     for (double path = 10.0 * std::ceil(all[i].phase / 10.0) - all[i].phase; path < 2000.0;
          path += 10.0) {
@@ -191,19 +189,21 @@ TEST_F(WavePointsTest, TheLargestFanHasTrueFronts) {
   c.arvimaton.Value(5);
   c.desmi1.Value(150);
   // Too many rays for a set, so they are traced here as the fan traces them.
-  const auto setup = poreiaaktinon::setupOf(screen.workbench());
   const Point source{-260.0, 70.0};
-  const auto paths = poreiaaktinon::fanPaths(setup, source, screen.vima.value());
+  const poreiaaktinon::Sent fan =
+      poreiaaktinon::send(screen.bench(), poreiaaktinon::Fan{source, screen.vima()}, edges());
+  const auto& paths = *fan.paths;
   ASSERT_EQ(paths.size(), 3437U);
-  RecordingCanvas recorder(usualSize.width(), usualSize.height());
-  recorder.Scale(setup.edges.left, setup.edges.upper, setup.edges.right, setup.edges.lower);
+  Recording recorder(usualSize.width(), usualSize.height());
+  recorder.Scale(edges().left, edges().upper, edges().right, edges().lower);
   std::vector<Wave> all;
   for (std::size_t k = 0; k < paths.size(); ++k) {
-    const double angle = static_cast<double>(k) * screen.vima.value() * pi / 180.0;
+    const double angle = static_cast<double>(k) * screen.vima() * pi / 180.0;
     recorder.forget();
     poreiaaktinon::drawWavePoints(recorder, paths[k]);
-    Wave wave{
-        snell::trace(setup.fakos, setup.n, source, {std::cos(angle), std::sin(angle)}), 0.0, {}};
+    Wave wave{snell::trace(screen.fakos(), screen.n(), source, {std::cos(angle), std::sin(angle)}),
+              0.0,
+              {}};
     for (const Operation& op : recorder.operations()) {
       wave.dots.push_back({{op.x1, op.y1}, op.colour});
     }

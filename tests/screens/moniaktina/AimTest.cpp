@@ -1,4 +1,5 @@
 // Placing the source and aiming the ray with the mouse.
+#include <QDialog>
 #include <QtTest/QTest>
 
 #include "tests/screens/moniaktina/MoniaktinaTest.h"
@@ -42,15 +43,40 @@ TEST_F(MoniaktinaAimTest, AimIsShownWhileTheButtonIsHeldAndLeavesNoTrace) {
   EXPECT_EQ(picture(), rayPicture(design, 30.0, -12.0));
 }
 
-TEST_F(MoniaktinaAimTest, OpeningTheScreenAgainEndsADragLeftByTheKeyboard) {
-  screen.Form_MouseDown(1, 0, -150.0, 42.0);
-  screen.Form_MouseMove(1, 0, 20.0, -10.0);
-  screen.close();
-  open();
+TEST_F(MoniaktinaAimTest, HidingTheScreenEndsADrag) {
+  QTest::mousePress(screen.drawingArea(), Qt::LeftButton, {}, pixelOf({-150.0, 42.0}));
+  ASSERT_TRUE(c.aim.Visible());
+  screen.Hide();
   EXPECT_FALSE(c.aim.Visible());
+  open();
   screen.Form_MouseMove(0, 0, 60.0, 30.0);
   EXPECT_FALSE(c.aim.Visible());
   EXPECT_EQ(picture(), lensPicture(design));
+}
+
+TEST_F(MoniaktinaAimTest, ADragThatIsLostLeavesThePicture) {
+  const QImage before = picture();
+  screen.Form_MouseDown(1, 0, -150.0, 42.0);
+  screen.Form_MouseMove(1, 0, 20.0, -10.0);
+  emit screen.DragEnded();
+  EXPECT_FALSE(c.aim.Visible());
+  screen.Form_MouseMove(0, 0, 30.0, -10.0);
+  EXPECT_FALSE(c.aim.Visible());
+  EXPECT_EQ(picture(), before);
+}
+
+TEST_F(MoniaktinaAimTest, AReleaseAfterTheDragEndedSendsNoRay) {
+  const QImage before = picture();
+  QWidget* area = screen.drawingArea();
+  QTest::mousePress(area, Qt::LeftButton, {}, pixelOf({-150.0, 42.0}));
+  QDialog box(&screen);
+  box.setModal(true);
+  box.show();
+  ASSERT_FALSE(c.aim.Visible());
+  box.hide();
+  QTest::mouseRelease(area, Qt::LeftButton, {}, pixelOf({20.0, -10.0}));
+  EXPECT_EQ(picture(), before);
+  EXPECT_FALSE(screen.drawingArea()->toolTip().isEmpty());
 }
 
 TEST_F(MoniaktinaAimTest, MovingWithoutAPressShowsNoAim) {
@@ -67,6 +93,25 @@ TEST_F(MoniaktinaAimTest, ReleaseClearsAndDrawsWithTheLensOfTheScrollBars) {
   EXPECT_EQ(picture(), rayPicture({140, 100, 130, 1.5}, 60.0, 0.0));
   EXPECT_EQ(screen.canvas().FontName(), "Arial Greek");
   EXPECT_EQ(screen.canvas().DrawWidth(), 1);
+}
+
+TEST_F(MoniaktinaAimTest, SourceAndAimAreSingles) {
+  screen.Form_MouseDown(1, 0, -150.1, 42.7);
+  screen.Form_MouseUp(1, 0, 30.3, -12.9);
+  const auto& layers = screen.shown().layers;
+  const auto& aim = std::get<poreiaaktinon::single::AimLine>(layers.front());
+  const auto& sent = std::get<poreiaaktinon::single::Ray>(layers.back()).sent;
+  const auto& ray = std::get<poreiaaktinon::SingleRay>(sent.rays);
+  const Point source{asSingle(middleOfFos().x), asSingle(middleOfFos().y)};
+  ASSERT_NE(source.x, middleOfFos().x);
+  for (const Point& start : {aim.from, ray.source}) {
+    EXPECT_EQ(start.x, source.x);
+    EXPECT_EQ(start.y, source.y);
+  }
+  EXPECT_EQ(aim.to.x, asSingle(30.3));
+  EXPECT_EQ(aim.to.y, asSingle(-12.9));
+  EXPECT_EQ(ray.direction.x, asSingle(asSingle(30.3) - source.x));
+  EXPECT_EQ(ray.direction.y, asSingle(asSingle(-12.9) - source.y));
 }
 
 TEST_F(MoniaktinaAimTest, ReleaseReadsTheStateFromTheScrollBars) {
@@ -125,6 +170,17 @@ TEST_F(MoniaktinaAimTest, HowToAimIsSaidUntilItHasBeenDone) {
   EXPECT_TRUE(screen.drawingArea()->toolTip().isEmpty());
 }
 
+TEST_F(MoniaktinaAimTest, WhatStopsARayIsSaidUntilARayHasPassed) {
+  const QString hint = screen.drawingArea()->toolTip();
+  t.moves.opening = {-80.0, 0.0, 0.0};
+  screen.Form_MouseDown(1, 0, -150.0, 42.0);
+  screen.Form_MouseUp(1, 0, 30.0, -12.0);
+  EXPECT_EQ(screen.drawingArea()->toolTip(), hint);
+  t.moves.opening = {-80.0, 90.0, -90.0};
+  screen.Form_MouseUp(1, 0, 30.0, -12.0);
+  EXPECT_TRUE(screen.drawingArea()->toolTip().isEmpty());
+}
+
 TEST_F(MoniaktinaAimTest, ReleaseStraightAboveOrBelowEndsInDivisionByZero) {
   screen.Form_MouseDown(1, 0, -150.0, 42.0);
   const Point source = middleOfFos();
@@ -136,6 +192,11 @@ TEST_F(MoniaktinaAimTest, ReleaseStraightAboveOrBelowEndsInDivisionByZero) {
       EXPECT_EQ(error.number(), 11);
       EXPECT_FALSE(error.detail().empty());
     }
+    // What was drawn before the error stands behind its box.
+    const auto& layers = screen.shown().layers;
+    ASSERT_EQ(layers.size(), 2u);
+    EXPECT_TRUE(std::holds_alternative<poreiaaktinon::single::AimLine>(layers[0]));
+    EXPECT_TRUE(std::holds_alternative<poreiaaktinon::single::LensUnderRay>(layers[1]));
   }
 }
 

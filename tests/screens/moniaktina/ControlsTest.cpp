@@ -46,10 +46,11 @@ TEST_F(MoniaktinaControlsTest, ScrollBars) {
     EXPECT_EQ(bar.SmallChange(), 1) << name;
     EXPECT_EQ(bar.orientation(), Qt::Horizontal) << name;
   };
-  expectBar(c.aktina1, "aktina1", {0, 360, 2775, 375}, 50, 500, 90, 40);
-  expectBar(c.aktina2, "aktina2", {0, 0, 2775, 375}, 0, 500, 100, 1);
-  expectBar(c.kentrokykloy, "kentrokykloy", {-120, 1080, 2655, 375}, 0, 500, 100, 40);
-  expectBar(c.deiktisdiathlasis, "deiktisdiathlasis", {0, 720, 2415, 375}, 40, 250, 150, 10);
+  // Flush in rows of 24 pixels, the lowest cut to the window at its left end.
+  expectBar(c.aktina1, "aktina1", {0, 360, 2775, 360}, 50, 500, 90, 40);
+  expectBar(c.aktina2, "aktina2", {0, 0, 2775, 360}, 0, 500, 100, 1);
+  expectBar(c.kentrokykloy, "kentrokykloy", {0, 1080, 2535, 360}, 0, 500, 100, 40);
+  expectBar(c.deiktisdiathlasis, "deiktisdiathlasis", {0, 720, 2415, 360}, 40, 250, 150, 10);
 }
 
 TEST_F(MoniaktinaControlsTest, TextBoxesShowTheWholeOfTheirTexts) {

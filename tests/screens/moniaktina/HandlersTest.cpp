@@ -112,9 +112,9 @@ TEST_F(MoniaktinaHandlersTest, EqualRadiiWithTheCentreAtZeroEndInDivisionByZero)
 
 TEST_F(MoniaktinaHandlersTest, ButtonAndCloseBoxGoBack) {
   QTest::mouseClick(&c.Command1, Qt::LeftButton);
-  EXPECT_EQ(moves.made, std::vector<std::string>{"leaveSingleRay"});
+  EXPECT_EQ(t.moves.made, std::vector<std::string>{"leaveSingleRay"});
   EXPECT_FALSE(screen.close());
-  EXPECT_EQ(moves.made, (std::vector<std::string>{"leaveSingleRay", "leaveSingleRay"}));
+  EXPECT_EQ(t.moves.made, (std::vector<std::string>{"leaveSingleRay", "leaveSingleRay"}));
   EXPECT_TRUE(screen.isVisible());
 }
 

@@ -1,13 +1,16 @@
 // The lens of the single-ray screen, operation by operation.
 #include <cmath>
+#include <functional>
+#include <gtest/gtest.h>
 #include <numbers>
 
 #include <QRegularExpression>
+#include <QString>
 
-#include "screens/moniaktina/SingleRayPicture.h"
-#include "tests/screens/moniaktina/MoniaktinaTest.h"
+#include "canvas/Recording.h"
+#include "optics/poreiaaktinon/SingleRayPicture.h"
 
-namespace lensbench {
+namespace lensbench::poreiaaktinon::single {
 namespace {
 
 constexpr double pi = std::numbers::pi;
@@ -18,7 +21,7 @@ using Kind = Operation::Kind;
 // Walks through recorded operations, comparing each with what is expected next.
 class Reader {
  public:
-  explicit Reader(const RecordingCanvas& canvas) : operations_(canvas.operations()) {}
+  explicit Reader(const Recording& canvas) : operations_(canvas.operations()) {}
   ~Reader() { EXPECT_EQ(next_, operations_.size()) << "operations left over"; }
   Reader(const Reader&) = delete;
   Reader& operator=(const Reader&) = delete;
@@ -69,8 +72,16 @@ class Reader {
   std::size_t next_ = 0;
 };
 
+void drawLensAlone(Canvas& canvas, int R1, int R2, int xc1, int xc2, double n) {
+  draw(canvas, Shown{{LensAlone{outlineOf(R1, R2, xc1, xc2, n)}}});
+}
+
+void drawLensUnderRay(Canvas& canvas, int R1, int R2, int xc2, double n) {
+  draw(canvas, Shown{{LensUnderRay{outlineOf(R1, R2, 0, xc2, n)}}});
+}
+
 TEST(LensPicture, LensAloneAtTheDesignValues) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 1.5);
   const double h = std::sqrt(90.0 * 90.0 - 40.5 * 40.5);
   EXPECT_NEAR(h, 80.37, 0.005);
@@ -90,14 +101,14 @@ TEST(LensPicture, LensAloneAtTheDesignValues) {
 }
 
 TEST(LensPicture, FirstCircleStandsWhereItsCentreIs) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 7, 100, 1.5);
   EXPECT_EQ(canvas.operations(Kind::Arc)[0].x1, 7.0);
   EXPECT_EQ(canvas.operations(Kind::Arc)[1].x1, 100.0);
 }
 
 TEST(LensPicture, UnderTheRayEverythingIsDrawnTwiceAndTheRimMarkedOnce) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensUnderRay(canvas, 90, 100, 100, 1.5);
   const double h = std::sqrt(90.0 * 90.0 - 40.5 * 40.5);
   const double f = 1.0 / ((1.0 / 90.0 + 1.0 / 100.0) * 0.5);
@@ -105,6 +116,7 @@ TEST(LensPicture, UnderTheRayEverythingIsDrawnTwiceAndTheRimMarkedOnce) {
   const double alpha2 = std::asin(h / 100.0);
 
   Reader next(canvas);
+  next.cls();
   for (const bool second : {false, true}) {
     if (second) {
       next.circle(40.5, h, 6);
@@ -120,7 +132,7 @@ TEST(LensPicture, UnderTheRayEverythingIsDrawnTwiceAndTheRimMarkedOnce) {
 }
 
 TEST(LensPicture, TopAndBottomLinesHaveTheForeColor) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(1, 2, 3));
   drawLensUnderRay(canvas, 90, 100, 100, 1.5);
   for (const Operation& line : canvas.operations(Kind::Line)) {
@@ -129,7 +141,7 @@ TEST(LensPicture, TopAndBottomLinesHaveTheForeColor) {
 }
 
 TEST(LensPicture, CirclesApartHaveFacesOfNoLength) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 50, 60, 0, 300, 1.5);
   const double f = 1.0 / ((1.0 / 50.0 + 1.0 / 60.0) * 0.5);
   Reader next(canvas);
@@ -141,7 +153,7 @@ TEST(LensPicture, CirclesApartHaveFacesOfNoLength) {
 }
 
 TEST(LensPicture, ConcentricCirclesOfUnequalRadiiCountAsApart) {
-  const LensOutline outline = outlineOf(90, 100, 0);
+  const Outline outline = outlineOf(90, 100, 0, 0, 1.5);
   EXPECT_EQ(outline.x0, 0.0);
   EXPECT_EQ(outline.h, 0.0);
   EXPECT_EQ(outline.h2, 0.0);
@@ -150,7 +162,7 @@ TEST(LensPicture, ConcentricCirclesOfUnequalRadiiCountAsApart) {
 }
 
 TEST(LensPicture, TangentCirclesTouchOnTheAxis) {
-  const LensOutline outline = outlineOf(100, 100, 200);
+  const Outline outline = outlineOf(100, 100, 0, 200, 1.5);
   EXPECT_EQ(outline.x0, 100.0);
   EXPECT_EQ(outline.h, 0.0);
   EXPECT_EQ(outline.alpha1, 0.0);
@@ -158,7 +170,7 @@ TEST(LensPicture, TangentCirclesTouchOnTheAxis) {
 
 TEST(LensPicture, FaceOfMoreThanHalfACircleKeepsTheArcSine) {
   // The chord lies left of the centre of circle 1.
-  const LensOutline outline = outlineOf(90, 500, 450);
+  const Outline outline = outlineOf(90, 500, 0, 450, 1.5);
   EXPECT_LT(outline.x0, 0.0);
   EXPECT_NEAR(outline.alpha1, std::asin(outline.h / 90.0), 1e-12);
   EXPECT_LT(outline.alpha1, pi / 2);
@@ -166,14 +178,14 @@ TEST(LensPicture, FaceOfMoreThanHalfACircleKeepsTheArcSine) {
 
 TEST(LensPicture, ChordThroughACentreMakesAHalfCircle) {
   // 3-4-5: the chord is the diameter of circle 1.
-  const LensOutline outline = outlineOf(60, 100, 80);
+  const Outline outline = outlineOf(60, 100, 0, 80, 1.5);
   EXPECT_NEAR(outline.x0, 0.0, 1e-12);
   EXPECT_NEAR(outline.h, 60.0, 1e-12);
   EXPECT_NEAR(outline.alpha1, pi / 2, 1e-7);
 }
 
 TEST(LensPicture, IndexOfOnePutsBothMarksOnTheChord) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 1.0);
   const auto marks = canvas.operations(Kind::Circle);
   ASSERT_EQ(marks.size(), 2u);
@@ -182,7 +194,7 @@ TEST(LensPicture, IndexOfOnePutsBothMarksOnTheChord) {
 }
 
 TEST(LensPicture, IndexBelowOneSwapsTheMarks) {
-  RecordingCanvas canvas;
+  Recording canvas;
   drawLensAlone(canvas, 90, 100, 0, 100, 0.5);
   const double f = 1.0 / ((1.0 / 90.0 + 1.0 / 100.0) * -0.5);
   const auto marks = canvas.operations(Kind::Circle);
@@ -203,14 +215,14 @@ void expectDivisionByZeroInWords(const std::function<void()>& work) {
 }
 
 TEST(LensPicture, RadiusOfZeroIsADivisionByZero) {
-  RecordingCanvas canvas;
+  Recording canvas;
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 90, 0, 0, 100, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 0, 90, 0, 100, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensUnderRay(canvas, 90, 0, 100, 1.5); });
 }
 
 TEST(LensPicture, OneAndTheSameCircleIsADivisionByZero) {
-  RecordingCanvas canvas;
+  Recording canvas;
   expectDivisionByZeroInWords([&] { drawLensAlone(canvas, 90, 90, 0, 0, 1.5); });
   expectDivisionByZeroInWords([&] { drawLensUnderRay(canvas, 90, 90, 0, 1.5); });
 }
@@ -243,4 +255,4 @@ TEST(AimedDirection, SteepIsNotYetVertical) {
 }
 
 }  // namespace
-}  // namespace lensbench
+}  // namespace lensbench::poreiaaktinon::single

@@ -1,51 +1,26 @@
 // The single-ray screen beside a workbench whose diaphragm the test sets.
 #pragma once
 
-#include <functional>
 #include <gtest/gtest.h>
 
 #include "canvas/qt/RasterCanvas.h"
-#include "optics/poreiaaktinon/Workbench.h"
 #include "screens/moniaktina/moniaktina.h"
-#include "tests/screens/support/FakeMoves.h"
-#include "tests/support/RecordingCanvas.h"
+#include "tests/screens/support/TestContext.h"
 
 namespace lensbench {
 
-// Only the diaphragm of it concerns the single ray; it stands open unless a test closes it.
-class FakeWorkbench : public poreiaaktinon::Workbench {
- public:
-  FakeWorkbench();
-  ~FakeWorkbench();
-  FakeWorkbench(const FakeWorkbench&) = delete;
-  FakeWorkbench& operator=(const FakeWorkbench&) = delete;
-
-  Canvas& canvas() override { return canvas_; }
-  poreiaaktinon::Diafragma diafragma() const override { return opening; }
-  poreiaaktinon::Fakos fakos() const override { return {}; }
-  double deiktisdiathlasis() const override { return 1.0; }
-  Point pigi() const override { return {}; }
-  double vima() const override { return 1.0; }
-  poreiaaktinon::Provoli provoli() const override { return {}; }
-
-  poreiaaktinon::Diafragma opening{0.0, 1000.0, -1000.0};
-
- private:
-  RecordingCanvas canvas_;
-};
+// Points of the screen are Singles.
+double asSingle(double v);
 
 class MoniaktinaTest : public ::testing::Test {
  protected:
-  FakeWorkbench workbench;
-  FakeMoves moves;
-  moniaktina screen{moves};
+  TestContext t;  // t.moves.opening: the diaphragm, wide open unless a test closes it
+  moniaktina screen{t.context};
   MoniaktinaControls& c = screen.controls();
 
   // As the workbench opens it.
   void open();
-  QImage picture() { return screen.canvas().image(); }
-  // The picture that some drawing makes on a cleared canvas of the same size and scale.
-  QImage drawn(const std::function<void(Canvas&)>& drawing);
+  QImage picture() { return screen.image().copy(); }
   // The lens alone, and the lens with a ray from the middle of fos towards (xa, ya), put together
   // from the values given.
   struct Lens {

@@ -34,13 +34,14 @@ TEST_F(MoniaktinaRayTest, RayThroughTheLensBendsTowardsTheAxisByTheLawOfRefracti
   const double a1 = std::asin(y / 100.0);
   const double inside = a1 - std::asin(std::sin(a1) / 1.5);  // downward, radians
   const double b = entry.x * std::cos(inside) - entry.y * std::sin(inside);
-  const double t = -b + std::sqrt(b * b + 90.0 * 90.0 - entry.x * entry.x - entry.y * entry.y);
-  const Point exit{entry.x + t * std::cos(inside), entry.y - t * std::sin(inside)};
+  const double inGlass =
+      -b + std::sqrt(b * b + 90.0 * 90.0 - entry.x * entry.x - entry.y * entry.y);
+  const Point exit{entry.x + inGlass * std::cos(inside), entry.y - inGlass * std::sin(inside)};
   const double normal = std::asin(exit.y / 90.0);
   const double outside = std::asin(1.5 * std::sin(normal + inside)) - normal;  // downward
 
   EXPECT_EQ(colourAt({-100.0, y}), red);
-  const double along = t / 2.0;
+  const double along = inGlass / 2.0;
   EXPECT_TRUE(hasColour(
       red, {entry.x + along * std::cos(inside) - 0.5, entry.y - along * std::sin(inside) + 0.5},
       {entry.x + along * std::cos(inside) + 0.5, entry.y - along * std::sin(inside) - 0.5}));
@@ -58,7 +59,7 @@ TEST_F(MoniaktinaRayTest, RayThatMissesTheLensRunsStraightToTheEdge) {
 }
 
 TEST_F(MoniaktinaRayTest, ClosedDiaphragmOfTheWorkbenchStopsTheRayInADot) {
-  workbench.opening = {-80.0, 0.0, 0.0};
+  t.moves.opening = {-80.0, 0.0, 0.0};
   send({-250.0, 30.0}, {-240.0, 30.0});
   EXPECT_EQ(colourAt({-150.0, 30.0}), red);
   EXPECT_EQ(colourAt({-80.0, 30.0}), stop);
@@ -66,14 +67,14 @@ TEST_F(MoniaktinaRayTest, ClosedDiaphragmOfTheWorkbenchStopsTheRayInADot) {
 }
 
 TEST_F(MoniaktinaRayTest, DiaphragmBehindTheLensStopsTheRayToo) {
-  workbench.opening = {200.0, 0.0, 0.0};
+  t.moves.opening = {200.0, 0.0, 0.0};
   send({-250.0, 20.0}, {-240.0, 20.0});
   EXPECT_TRUE(hasColour(stop, {195.0, 100.0}, {205.0, -100.0}));
   EXPECT_FALSE(hasColour(red, {205.0, 70.0}, {300.0, -70.0}));
 }
 
 TEST_F(MoniaktinaRayTest, OpenDiaphragmLetsTheRayPass) {
-  workbench.opening = {-80.0, 40.0, -40.0};
+  t.moves.opening = {-80.0, 40.0, -40.0};
   send({-250.0, 30.0}, {-240.0, 30.0});
   EXPECT_FALSE(hasColour(stop, {-300.0, 200.0}, {300.0, -200.0}));
   EXPECT_EQ(colourAt({-20.0, 30.0}), red);

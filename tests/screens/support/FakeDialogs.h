@@ -12,11 +12,6 @@ namespace lensbench {
 
 class FakeDialogs : public Dialogs {
  public:
-  FakeDialogs() { useDialogs(this); }
-  ~FakeDialogs() { useDialogs(nullptr); }
-  FakeDialogs(const FakeDialogs&) = delete;
-  FakeDialogs& operator=(const FakeDialogs&) = delete;
-
   std::optional<QString> answer;    // to every input box; without one it is cancelled
   std::function<void()> whileOpen;  // what happens while the input box stands open
   QStringList messages;             // texts of the message boxes shown

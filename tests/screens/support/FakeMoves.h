@@ -11,14 +11,17 @@ namespace lensbench {
 class FakeMoves : public Moves {
  public:
   std::vector<std::string> made;
+  light::Diafragma opening{0.0, 1000.0, -1000.0};  // of the workbench: open
 
   void openSingleRay() override { made.emplace_back("openSingleRay"); }
   void openLensMenu() override { made.emplace_back("openLensMenu"); }
   void leaveSingleRay() override { made.emplace_back("leaveSingleRay"); }
   void leaveLensMenu() override { made.emplace_back("leaveLensMenu"); }
   void openIbnSahl() override { made.emplace_back("openIbnSahl"); }
+  void drawIbnSahl() override { made.emplace_back("drawIbnSahl"); }
   void leaveIbnSahl() override { made.emplace_back("leaveIbnSahl"); }
   void End() override { made.emplace_back("End"); }
+  light::Diafragma diafragma() override { return opening; }
 };
 
 }  // namespace lensbench

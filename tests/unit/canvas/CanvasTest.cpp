@@ -2,10 +2,11 @@
 #include <gmock/gmock.h>
 #include <limits>
 #include <numbers>
+#include <vector>
 
 #include "canvas/Canvas.h"
+#include "canvas/Recording.h"
 #include "canvas/RuntimeError.h"
-#include "tests/support/RecordingCanvas.h"
 
 namespace lensbench {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 constexpr double pi = std::numbers::pi;
 
 TEST(Canvas, CountsInTwipsUntilAScaleIsSet) {
-  const RecordingCanvas canvas(800, 400);
+  const Recording canvas(800, 400);
   EXPECT_FALSE(canvas.hasUserScale());
   EXPECT_EQ(canvas.ScaleLeft(), 0.0);
   EXPECT_EQ(canvas.ScaleTop(), 0.0);
@@ -22,7 +23,7 @@ TEST(Canvas, CountsInTwipsUntilAScaleIsSet) {
 }
 
 TEST(Canvas, ScaleMapsTheCorners) {
-  RecordingCanvas canvas(800, 400);
+  Recording canvas(800, 400);
   canvas.Scale(-400, 200, 400, -200);
   EXPECT_EQ(canvas.ScaleWidth(), 800.0);
   EXPECT_EQ(canvas.ScaleHeight(), -400.0);
@@ -33,14 +34,14 @@ TEST(Canvas, ScaleMapsTheCorners) {
 }
 
 TEST(Canvas, AScaleWithoutLengthIsDivisionByZero) {
-  RecordingCanvas canvas;
+  Recording canvas;
   EXPECT_THROW(canvas.Scale(1, 1, 1, 2), RuntimeError);
   EXPECT_THROW(canvas.Scale(0, 2, 1, 2), RuntimeError);
   EXPECT_FALSE(canvas.hasUserScale());
 }
 
 TEST(Canvas, LineTakesForeColorAndMovesTheCurrentPoint) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(1, 2, 3));
   canvas.DrawWidth(4);
   canvas.DrawStyle(DrawStyle::Dotted);
@@ -61,7 +62,7 @@ TEST(Canvas, LineTakesForeColorAndMovesTheCurrentPoint) {
 }
 
 TEST(Canvas, AnArcFromBeforeToAfterAngleZeroPassesThroughIt) {
-  RecordingCanvas canvas;
+  Recording canvas;
   const double alpha = 0.4;
   canvas.Circle(0, 0, 10, black, 2 * pi - alpha, alpha);
   const Operation& arc = canvas.operations().back();
@@ -70,7 +71,7 @@ TEST(Canvas, AnArcFromBeforeToAfterAngleZeroPassesThroughIt) {
 }
 
 TEST(Canvas, AnArcWithoutLengthHasNoSweepAndAWholeTurnStaysWhole) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.Circle(0, 0, 10, black, 2 * pi, 0);
   EXPECT_EQ(canvas.operations().back().x2, canvas.operations().back().y2);
   canvas.Circle(0, 0, 10, black, 0, 2 * pi);
@@ -78,7 +79,7 @@ TEST(Canvas, AnArcWithoutLengthHasNoSweepAndAWholeTurnStaysWhole) {
 }
 
 TEST(Canvas, ClosedCirclesAreFilledWhileFillStyleIsSolid) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.FillColor(RGB(9, 9, 9));
   canvas.Circle(0, 0, 3);
   EXPECT_FALSE(canvas.operations().back().fill.has_value());
@@ -88,7 +89,7 @@ TEST(Canvas, ClosedCirclesAreFilledWhileFillStyleIsSolid) {
 }
 
 TEST(Canvas, ATransparentFillFillsNothing) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.FillColor(RGB(9, 9, 9));
   EXPECT_FALSE(canvas.FloodFill(10, 10, black));
   EXPECT_TRUE(canvas.operations().empty());
@@ -99,7 +100,7 @@ TEST(Canvas, ATransparentFillFillsNothing) {
 }
 
 TEST(Canvas, PrintMovesOneLineDownTheScreen) {
-  RecordingCanvas canvas(100, 100);
+  Recording canvas(100, 100);
   canvas.Scale(-50, 50, 50, -50);
   canvas.CurrentX(10);
   canvas.CurrentY(20);
@@ -115,7 +116,7 @@ TEST(Canvas, PrintMovesOneLineDownTheScreen) {
 }
 
 TEST(Canvas, ANumberThatIsNotFiniteNeverReachesTheSurface) {
-  RecordingCanvas canvas;
+  Recording canvas;
   const double inf = std::numeric_limits<double>::infinity();
   const double nan = std::nan("");
   EXPECT_THROW(canvas.Line(0, 0, inf, 0), RuntimeError);
@@ -127,8 +128,41 @@ TEST(Canvas, ANumberThatIsNotFiniteNeverReachesTheSurface) {
   EXPECT_TRUE(canvas.operations().empty());
 }
 
+TEST(Canvas, ABatchOfDotsIsTheDotsInOrder) {
+  Recording canvas;
+  canvas.DrawWidth(2);
+  const std::vector<Point> points{{1, 2}, {3, 4}};
+  canvas.PSets(points, RGB(255, 0, 0));
+  ASSERT_EQ(canvas.operations().size(), 2u);
+  EXPECT_EQ(canvas.operations()[1].kind, Operation::Kind::PSet);
+  EXPECT_EQ(canvas.operations()[1].y1, 4.0);
+  EXPECT_EQ(canvas.operations()[1].width, 2);
+  EXPECT_EQ(canvas.operations()[1].colour, RGB(255, 0, 0));
+  const std::vector<Point> bad{{1, 2}, {std::nan(""), 4}};
+  EXPECT_THROW(canvas.PSets(bad), RuntimeError);
+  EXPECT_EQ(canvas.operations().size(), 2u);
+}
+
+TEST(Canvas, AFillThatIsToldItsBodyIsAFloodFill) {
+  Recording canvas;
+  const Body body{{{{0, 0}, 5, 0, pi}}, 2};
+  EXPECT_FALSE(canvas.FillBody(10, 20, black, body));
+  EXPECT_TRUE(canvas.operations().empty());
+  canvas.FillStyle(FillStyle::Solid);
+  canvas.FillColor(RGB(9, 9, 9));
+  EXPECT_TRUE(canvas.FillBody(10, 20, black, body));
+  ASSERT_EQ(canvas.operations().size(), 1u);
+  const Operation& fill = canvas.operations().back();
+  EXPECT_EQ(fill.kind, Operation::Kind::FloodFill);
+  EXPECT_EQ(fill.x1, 10.0);
+  EXPECT_EQ(fill.y1, 20.0);
+  EXPECT_EQ(fill.fill, std::optional(RGB(9, 9, 9)));
+  EXPECT_EQ(fill.body.outline.size(), 1u);
+  EXPECT_EQ(fill.body.borderWidth, 2);
+}
+
 TEST(Canvas, SystemColourFiveIsWhite) {
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.BackColor(systemColour(5));
   canvas.Cls();
   EXPECT_EQ(canvas.operations().back().colour, white);

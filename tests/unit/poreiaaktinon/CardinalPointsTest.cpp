@@ -4,7 +4,6 @@
 
 #include "canvas/RuntimeError.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
-#include "optics/poreiaaktinon/Geometry.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {
@@ -58,10 +57,10 @@ TEST(HasCardinalPoints, AsksForALensWithPower) {
 
 TEST(CanConstruct, NeedsASourceOffTheAxisAndOffF1AndN1) {
   const CardinalPoints p = cardinalPoints({-50.0, 100.0, 20.0, 90.0}, 1.5);
-  EXPECT_TRUE(canConstruct(p, {-200.0, 30.0}));
-  EXPECT_FALSE(canConstruct(p, {-200.0, 0.0}));
-  EXPECT_FALSE(canConstruct(p, {p.F1, 30.0}));
-  EXPECT_FALSE(canConstruct(p, {p.N1, 30.0}));
+  EXPECT_TRUE(canConstruct(p, {-200.0, 30.0}, Travel::Right));
+  EXPECT_FALSE(canConstruct(p, {-200.0, 0.0}, Travel::Right));
+  EXPECT_FALSE(canConstruct(p, {p.F1, 30.0}, Travel::Right));
+  EXPECT_FALSE(canConstruct(p, {p.N1, 30.0}, Travel::Right));
 }
 
 TEST(Xaraktiristikasimeia, DrawsMarksConstructionAndLabelsInOrder) {

@@ -1,33 +1,35 @@
-// A workbench of plain values on a recording canvas, connected while it lives.
+// A workbench of plain values on a recording canvas, connected to the named routines while it
+// lives, and rays traced one by one.
 #pragma once
 
-#include "optics/poreiaaktinon/RayPath.h"
-#include "optics/poreiaaktinon/Workbench.h"
-#include "tests/support/RecordingCanvas.h"
+#include "canvas/Recording.h"
+#include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Named.h"
 
 namespace lensbench::poreiaaktinon {
 
+constexpr light::Edges testEdges{-400.0, 400.0, -200.0, 200.0};
+
 // The lens, index and source with which the workbench opens; the diaphragm is wide open.
-class FakeWorkbench : public Workbench {
+class FakeWorkbench {
  public:
   FakeWorkbench() {
     surface.Scale(-400.0, 200.0, 400.0, -200.0);
     surface.forget();
-    connectWorkbench([this]() -> Workbench& { return *this; });
+    connectWorkbench({[this]() -> Canvas& { return surface; },
+                      [this] {
+                        return Bench{lens, n, opening};
+                      },
+                      [this] { return step; }, [this] { return shown; },
+                      [this] { return source; }});
   }
   FakeWorkbench(const FakeWorkbench&) = delete;
   FakeWorkbench& operator=(const FakeWorkbench&) = delete;
-  ~FakeWorkbench() override { connectWorkbench({}); }
+  ~FakeWorkbench() { connectWorkbench({}); }
 
-  Canvas& canvas() override { return surface; }
-  Diafragma diafragma() const override { return opening; }
-  Fakos fakos() const override { return lens; }
-  double deiktisdiathlasis() const override { return n; }
-  Point pigi() const override { return source; }
-  double vima() const override { return step; }
-  Provoli provoli() const override { return shown; }
+  Bench bench() const { return {lens, n, opening}; }
 
-  RecordingCanvas surface{800.0, 400.0};
+  Recording surface{800.0, 400.0};
   Diafragma opening{0.0, 1000.0, -1000.0};
   Fakos lens{-50.0, 100.0, 20.0, 90.0};
   double n = 1.5;
@@ -36,6 +38,9 @@ class FakeWorkbench : public Workbench {
   Provoli shown;
 };
 
-constexpr Edges testEdges{-400.0, 400.0, -200.0, 200.0};
+inline light::RayPath tracePath(const Bench& bench, Point start, Point direction,
+                                const light::Edges& edges = testEdges) {
+  return send(bench, SingleRay{start, direction}, edges).paths->front();
+}
 
 }  // namespace lensbench::poreiaaktinon

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
-#include "optics/poreiaaktinon/Geometry.h"
+#include "optics/poreiaaktinon/Named.h"
 #include "tests/support/ErrorNumber.h"
 
 namespace lensbench::poreiaaktinon {

@@ -1,10 +1,9 @@
-// One refraction, in Single and in double, and the diaphragm.
+// The named refraction at one surface, and the named test of the diaphragm.
 #include <cmath>
 #include <gtest/gtest.h>
 
 #include "canvas/RuntimeError.h"
-#include "optics/Vector.h"
-#include "optics/poreiaaktinon/Refraction.h"
+#include "optics/poreiaaktinon/Named.h"
 #include "tests/support/ErrorNumber.h"
 
 namespace lensbench::poreiaaktinon {
@@ -73,15 +72,6 @@ TEST(Diathlasi, UnguardedDivisionsRaise) {
   EXPECT_THROW(diathlasi(0, 0, 100, 0, 0, 0, 100, 1.5), RuntimeError);
 }
 
-TEST(Refracted, KeepsTheSideOfTheNormalAndTheSense) {
-  const Point normal = unit({-1.0, 1.0});
-  const auto beyond = refracted({1.0, 0.0}, normal, 1.0 / 1.5);
-  ASSERT_TRUE(beyond);
-  EXPECT_NEAR(length(*beyond), 1.0, 1e-15);
-  EXPECT_LT(dot(*beyond, normal), 0.0);
-  EXPECT_NEAR(dot(*beyond, turned(normal)) * 1.5, dot({1.0, 0.0}, turned(normal)), 1e-15);
-}
-
 TEST(Elegxosdiafragmatos, TheEndsOfTheOpeningLetPass) {
   for (const double y : {-20.0, 30.0}) {
     const DiafragmaApotelesma r = elegxosdiafragmatos(50, 30, -20, -100, y, 1, 0);
@@ -119,17 +109,9 @@ TEST(Elegxosdiafragmatos, ASlopeThatIsNoNumberIsOverflow) {
   EXPECT_EQ(errorNumber([] { elegxosdiafragmatos(50, 30, -20, 7, 31, -1e-310, 1); }), 6);
 }
 
-TEST(StoppedAt, TakesASlopeThatIsNoNumberAsVertical) {
-  const Diafragma diafragma{50.0, 30.0, -20.0};
-  for (const double dx : {0.0, 1e-310, -1e-310}) {
-    for (const double x : {7.0, 50.0}) {
-      const auto stop = stoppedAt(diafragma, {x, 31.0}, {dx, 1.0});
-      ASSERT_TRUE(stop) << dx;
-      EXPECT_EQ(stop->x, 50.0);
-      EXPECT_EQ(stop->y, 31.0);
-      EXPECT_FALSE(stoppedAt(diafragma, {x, 29.0}, {dx, 1.0})) << dx;
-    }
-  }
+TEST(Elegxosdiafragmatos, AnOpeningOfHeightZeroLetsItsPointThrough) {
+  EXPECT_EQ(elegxosdiafragmatos(50, 0, 0, -100, 0, 1, 0).blocked, no);
+  EXPECT_EQ(elegxosdiafragmatos(50, 0, 0, -100, 0.001, 1, 0).blocked, yes);
 }
 
 }  // namespace

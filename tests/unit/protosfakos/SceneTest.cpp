@@ -8,9 +8,7 @@
 #include <variant>
 
 #include "optics/protosfakos/Outline.h"
-#include "optics/protosfakos/RayPath.h"
-#include "optics/protosfakos/Scenes.h"
-#include "tests/unit/protosfakos/FakeSahlScreen.h"
+#include "tests/unit/protosfakos/SahlBench.h"
 
 namespace lensbench::protosfakos {
 namespace {
@@ -56,8 +54,8 @@ constexpr std::size_t faceLines = 302;  // 151 points, upper and lower
 
 TEST(Outline, PlanoConvexIsTheCurveThenThePlane) {
   const SahlBench bench(1.5);
-  RecordingCanvas canvas;
-  drawOutline(canvas, planoConvex(bench.lens.a, bench.lens.b, 1.5));
+  Recording canvas;
+  drawOutline(canvas, bench.lens.a, bench.lens.b, false);
   const auto& ops = canvas.operations();
   ASSERT_EQ(ops.size(), faceLines + 1);
   const double b = bench.lens.b;
@@ -79,8 +77,8 @@ TEST(Outline, PlanoConvexIsTheCurveThenThePlane) {
 
 TEST(Outline, BiconvexHasTheMirroredCurveWithItsStroke) {
   const SahlBench bench(1.5);
-  RecordingCanvas canvas;
-  drawOutline(canvas, biconvex(bench.lens.a, bench.lens.b, 1.5));
+  Recording canvas;
+  drawOutline(canvas, bench.lens.a, bench.lens.b, true);
   const auto& ops = canvas.operations();
   ASSERT_EQ(ops.size(), 2 * faceLines);
   expectLine(ops[faceLines], 84, 0, 96, 0, red, 3);
@@ -93,8 +91,8 @@ TEST(Outline, BiconvexHasTheMirroredCurveWithItsStroke) {
 }
 
 TEST(Outline, IndexOneLiesOnTheAxis) {
-  RecordingCanvas canvas;
-  drawOutline(canvas, planoConvex(12, 0, 1));
+  Recording canvas;
+  drawOutline(canvas, 12, 0, false);
   ASSERT_EQ(canvas.operations().size(), faceLines + 1);
   for (const Operation& op : canvas.operations()) {
     EXPECT_EQ(op.y1, 0.0);
@@ -104,9 +102,9 @@ TEST(Outline, IndexOneLiesOnTheAxis) {
 
 TEST(IdealBundle, NineRaysMeetInTheFarFocus) {
   const double b = deriveLens(1.5)->b;
-  RecordingCanvas canvas;
+  Recording canvas;
   canvas.ForeColor(RGB(1, 2, 3));
-  drawIdealBundle(canvas, planoConvex(12, b, 1.5));
+  drawIdealBundle(canvas, 12, b);
   const auto& ops = canvas.operations();
   ASSERT_EQ(ops.size(), 18u);
   const double h = b * std::sqrt(15.0) / 5.0;
@@ -122,21 +120,18 @@ TEST(IdealBundle, NineRaysMeetInTheFarFocus) {
 }
 
 TEST(Scene, Captions) {
-  SahlBench bench;
-  bench.fan(false, 108, 25);
-  bench.fan(true, 108, 25);
-  bench.bundle(false, 0);
-  bench.bundle(true, 0);
-  EXPECT_EQ(
-      bench.screen.captions,
-      (std::vector<std::string>{
-          "Επιπεδόκυρτος φακός του Ιμπν Σαχλ ", "Αμφίκυρτος φακός του Ιμπν Σαχλ με δύο υπερβολές",
-          "IBN SAHL'S PLANECONVEX LENS", "Αμφίκυρτος φακός του Ιμπν Σαχλ με δύο υπερβολές"}));
+  const auto caption = [](bool amfikyrtos, const Rays& rays) {
+    return captionOf({.amfikyrtos = amfikyrtos, .rays = rays});
+  };
+  EXPECT_EQ(caption(false, Fan{}), "Επιπεδόκυρτος φακός του Ιμπν Σαχλ ");
+  EXPECT_EQ(caption(true, Fan{}), "Αμφίκυρτος φακός του Ιμπν Σαχλ με δύο υπερβολές");
+  EXPECT_EQ(caption(false, Desmi{}), "IBN SAHL'S PLANECONVEX LENS");
+  EXPECT_EQ(caption(true, Desmi{}), "Αμφίκυρτος φακός του Ιμπν Σαχλ με δύο υπερβολές");
 }
 
 TEST(Scene, OrderIsOutlineIdealBundleMarksRaysFronts) {
   SahlBench bench;
-  bench.screen.recording.ForeColor(RGB(7, 7, 7));
+  bench.recording.ForeColor(RGB(7, 7, 7));
   bench.fan(false, 108, 25);
   const auto& ops = bench.operations();
   std::size_t i = 303;
@@ -155,13 +150,27 @@ TEST(Scene, OrderIsOutlineIdealBundleMarksRaysFronts) {
     EXPECT_EQ(ops[k].colour, blue);
     EXPECT_EQ(ops[k].width, 1);
   }
-  EXPECT_EQ(ops.back().x2, state().kymataX[bench.recorded() - 1][30].value());
+  EXPECT_EQ(ops.back().x2, bench.kymata(bench.recorded() - 1, 30).x);
+}
+
+TEST(Scene, ABundleMarksTheVertexOnly) {
+  for (const bool amfikyrtos : {false, true}) {
+    SahlBench bench;
+    bench.recording.ForeColor(RGB(7, 7, 7));
+    bench.bundle(amfikyrtos, 0.3);
+    const auto marks = bench.recording.operations(Kind::Circle);
+    ASSERT_EQ(marks.size(), 1u);
+    expectMark(marks[0], 12, 0, RGB(7, 7, 7));
+    // After the outline and the ideal bundle, before the rays.
+    const std::size_t at = (amfikyrtos ? 2 * faceLines : faceLines + 1) + 18;
+    expectMark(bench.operations()[at], 12, 0, RGB(7, 7, 7));
+  }
 }
 
 TEST(Scene, OneRayInAllItsPieces) {
   // A source on the axis; the ray of slope 0.3 is the 21st of the fan.
   SahlBench bench;
-  bench.screen.rays = true;
+  bench.asked.onlyRays = true;
   bench.fan(false, 108, 0);
   const auto& ops = bench.operations();
   const auto at = std::find_if(ops.begin(), ops.end(), [](const Operation& op) {
@@ -190,7 +199,7 @@ TEST(Scene, OneRayInAllItsPieces) {
 TEST(Scene, ATrappedRayEndsAtTheEdgeOfTheGlass) {
   // The steepest ray meets the flat curve of n = 1.1 from above and comes back to that same curve.
   SahlBench bench(1.1);
-  bench.screen.rays = true;
+  bench.asked.onlyRays = true;
   const double b = bench.lens.b;
   const double y = b * std::sqrt(20.0 * 20.0 / 144.0 - 1.0);
   bench.fan(false, 40, y + 0.9 * 20);
@@ -214,14 +223,13 @@ TEST(Scene, ATrappedRayEndsAtTheEdgeOfTheGlass) {
   EXPECT_GT(count(ops, Kind::Line, cyan, 1), 1);
   EXPECT_EQ(count(ops, Kind::Line, green, 1), 0);
   EXPECT_EQ(bench.recorded(), 0);
-  EXPECT_TRUE(state().entryX[0].isEmpty());
 }
 
 TEST(Scene, MissingRaysAreHundredLongAlongTheirWay) {
   SahlBench bench(1.05);
-  bench.screen.rays = true;
+  bench.asked.onlyRays = true;
   bench.fan(false, 108, 25);
-  const auto lines = bench.screen.recording.operations(Kind::Line);
+  const auto lines = bench.recording.operations(Kind::Line);
   long missing = 0;
   for (const Operation& op : lines) {
     if (op.colour == blue && std::fabs(lengthOf(op) - 100.0) < 1e-9) {
@@ -237,9 +245,9 @@ TEST(Scene, MissingRaysAreHundredLongAlongTheirWay) {
 TEST(Scene, FanTravelsRightwardsOnlyFromTheLeftOfTheLens) {
   for (const bool amfikyrtos : {false, true}) {
     SahlBench bench;
-    bench.screen.rays = true;
+    bench.asked.onlyRays = true;
     bench.fan(amfikyrtos, -18, 0);
-    for (const Operation& op : bench.screen.recording.operations(Kind::Line)) {
+    for (const Operation& op : bench.recording.operations(Kind::Line)) {
       if (op.colour == blue) {
         EXPECT_GT(op.x2, -18.0);
       }
@@ -248,10 +256,10 @@ TEST(Scene, FanTravelsRightwardsOnlyFromTheLeftOfTheLens) {
       }
     }
     EXPECT_GT(bench.recorded(), 20);
-    bench.screen.recording.forget();
+    bench.recording.forget();
     bench.fan(amfikyrtos, 12, 100);
     bench.fan(amfikyrtos, 30, 100);
-    for (const Operation& op : bench.screen.recording.operations(Kind::Line)) {
+    for (const Operation& op : bench.recording.operations(Kind::Line)) {
       if (op.colour == blue) {
         EXPECT_LT(op.x2, op.x1);
       }
@@ -261,7 +269,7 @@ TEST(Scene, FanTravelsRightwardsOnlyFromTheLeftOfTheLens) {
 
 TEST(Scene, SourceInTheGlassHasNoIncidentPiece) {
   SahlBench bench;
-  bench.screen.rays = true;
+  bench.asked.onlyRays = true;
   bench.fan(false, 30, 2);
   EXPECT_EQ(count(bench.operations(), Kind::Line, blue, 1), 0);
   EXPECT_EQ(count(bench.operations(), Kind::Line, cyan, 1), 61);
@@ -274,7 +282,7 @@ TEST(Scene, SourceInTheGlassHasNoIncidentPiece) {
 TEST(Scene, ClosedDiaphragmDrawsOnlyMagentaRaysAndDots) {
   for (const bool amfikyrtos : {false, true}) {
     SahlBench bench;
-    bench.screen.opening = {100.0, 0.0, 0.0};
+    bench.asked.diafragma = {100.0, 0.0, 0.0};
     bench.fan(amfikyrtos, 108, 25);
     EXPECT_EQ(bench.recorded(), 0);
     EXPECT_EQ(count(bench.operations(), Kind::PSet, magenta, 4), 61);
@@ -288,15 +296,30 @@ TEST(Scene, ClosedDiaphragmDrawsOnlyMagentaRaysAndDots) {
       EXPECT_EQ(ops[i].x1, 100.0);
       expectLine(ops[i + 1], 108, 25, 100, ops[i].y1, magenta, 1);
     }
-    EXPECT_EQ(bench.screen.recording.DrawWidth(), 1);
+    EXPECT_EQ(bench.recording.DrawWidth(), 1);
+  }
+}
+
+TEST(Scene, ClosedDiaphragmStopsTheAxialRayToo) {
+  for (const bool amfikyrtos : {false, true}) {
+    SahlBench bench;
+    bench.asked.diafragma = {100.0, 0.0, 0.0};
+    bench.fan(amfikyrtos, 108, 0);
+    EXPECT_EQ(bench.recorded(), 0);
+    EXPECT_EQ(count(bench.operations(), Kind::PSet, magenta, 4), 61);
+    bench.recording.forget();
+    bench.bundle(amfikyrtos, 0);
+    EXPECT_EQ(bench.recorded(), 0);
+    EXPECT_EQ(count(bench.operations(), Kind::PSet, magenta, 4), amfikyrtos ? 201 : 101);
+    EXPECT_EQ(count(bench.operations(), Kind::Line, cyan, 1), 0);
   }
 }
 
 TEST(Scene, OnlyWavesLeavesOutRaysButNotDotsNorFronts) {
   for (const bool amfikyrtos : {false, true}) {
     SahlBench bench;
-    bench.screen.waves = true;
-    bench.screen.opening = {100.0, 30.0, 18.0};
+    bench.asked.onlyWaves = true;
+    bench.asked.diafragma = {100.0, 30.0, 18.0};
     bench.fan(amfikyrtos, 108, 25);
     const auto& ops = bench.operations();
     EXPECT_GT(bench.recorded(), 1);
@@ -313,12 +336,12 @@ TEST(Scene, OnlyWavesLeavesOutRaysButNotDotsNorFronts) {
 
 TEST(Scene, OnlyRaysLeavesOutTheFronts) {
   SahlBench bench;
-  bench.screen.rays = true;
+  bench.asked.onlyRays = true;
   bench.bundle(false, 0);
   EXPECT_GT(bench.recorded(), 1);
   // At slope 0 every start is 82 before the plane, and what misses is 100 long: no blue line
   // slants.
-  for (const Operation& op : bench.screen.recording.operations(Kind::Line)) {
+  for (const Operation& op : bench.recording.operations(Kind::Line)) {
     if (op.colour == blue) {
       EXPECT_EQ(op.y1, op.y2);
     }
@@ -328,12 +351,12 @@ TEST(Scene, OnlyRaysLeavesOutTheFronts) {
 TEST(Scene, BundlesHave101And201RaysFromX130) {
   for (const bool amfikyrtos : {false, true}) {
     SahlBench bench;
-    bench.screen.rays = true;
+    bench.asked.onlyRays = true;
     bench.bundle(amfikyrtos, 0);
     const long rays = amfikyrtos ? 201 : 101;
     double y = 100.0;
     long seen = 0;
-    for (const Operation& op : bench.screen.recording.operations(Kind::Line)) {
+    for (const Operation& op : bench.recording.operations(Kind::Line)) {
       if (op.colour != blue) continue;
       EXPECT_EQ(op.x1, 130.0);
       EXPECT_NEAR(op.y1, y, 1e-12);
@@ -348,9 +371,9 @@ TEST(Scene, BundlesHave101And201RaysFromX130) {
 
 TEST(Scene, DiaphragmAtTheStartOfTheBundleStopsNothing) {
   SahlBench bench;
-  bench.screen.opening = {130.0, 10.0, -10.0};
+  bench.asked.diafragma = {130.0, 10.0, -10.0};
   bench.bundle(false, 0.2);
-  EXPECT_TRUE(bench.screen.recording.operations(Kind::PSet).empty());
+  EXPECT_TRUE(bench.recording.operations(Kind::PSet).empty());
 }
 
 TEST(Scene, IndexOne) {
@@ -370,47 +393,11 @@ TEST(Scene, IndexOne) {
   }
 }
 
-TEST(Scene, ForgetsTheRaysOfTheSceneBefore) {
-  SahlBench bench;
-  bench.fan(false, 108, 0);
-  const int before = bench.recorded();
-  ASSERT_GT(before, 0);
-  bench.screen.opening = {100.0, 0.0, 0.0};
-  bench.fan(false, 108, 50);
-  EXPECT_EQ(bench.recorded(), 0);
-  for (int k = 0; k <= 500; ++k) {
-    EXPECT_TRUE(state().entryX[k].isEmpty() && state().entryY[k].isEmpty());
-    EXPECT_TRUE(state().exitX[k].isEmpty() && state().exitY[k].isEmpty());
-    EXPECT_EQ(state().directionX[k], 0.0f);
-    EXPECT_EQ(state().directionY[k], 0.0f);
-  }
-}
-
 TEST(Scene, DoesNotClearTheScreen) {
   SahlBench bench;
   bench.fan(false, 108, 25);
   bench.bundle(true, 0);
-  EXPECT_TRUE(bench.screen.recording.operations(Kind::Cls).empty());
-}
-
-TEST(Poreiaamfikyrtou, GivesTheExitPoint) {
-  const SahlBench bench;
-  const auto [a, b, c] = bench.lens;
-  Variant x, y;
-  poreiaamfikyrtou(a, b, 0, 10, x, y);
-  ASSERT_FALSE(x.isEmpty());
-  const double yExit = y.value();
-  EXPECT_NEAR((x.value() / a) * (x.value() / a) - yExit * yExit / (b * b), 1.0, 1e-12);
-  const RayPath path =
-      trace(biconvex(a, b, 1.5), rayWithSlope({130, 10}, 0, Travel::Left), bench.screen.opening);
-  EXPECT_NEAR(x.value(), path.exit.x, 1e-12);
-  EXPECT_NEAR(yExit, path.exit.y, 1e-12);
-  poreiaamfikyrtou(a, b, 0, 60, x, y);
-  EXPECT_TRUE(x.isEmpty());
-  EXPECT_TRUE(y.isEmpty());
-  poreiaamfikyrtou(a, b, 0, 0, x, y);
-  EXPECT_NEAR(x.value(), 12.0, 1e-12);
-  EXPECT_EQ(y.value(), 0.0);
+  EXPECT_TRUE(bench.recording.operations(Kind::Cls).empty());
 }
 
 }  // namespace

@@ -1,0 +1,15 @@
+// What the program cannot do without on the machine it is started on. Where it is missing, one
+// plain line on the standard error stream says so, and the program ends with exit status 1.
+#pragma once
+
+namespace lensbench {
+
+// A display, to be asked for before there is an application: X11 where it can be reached, for only
+// there a program places its windows, and Wayland elsewhere. Watched over from then on, for a
+// display can be lost too.
+void needDisplay();
+
+// A font with Greek letters, to be asked for once there is an application: boxes teach nobody.
+void needGreekFont();
+
+}  // namespace lensbench

@@ -1,0 +1,189 @@
+#include "canvas/qt/Tiles.h"
+
+#include <utility>
+
+#include <QRect>
+
+namespace lensbench {
+namespace {
+
+int tilesFor(int pixels) { return (pixels + Tiles::side - 1) / Tiles::side; }
+
+// Runs of tiles of one row, as first and last column.
+using Runs = std::vector<std::pair<int, int>>;
+
+}  // namespace
+
+Tiles::Tiles(QSize size, PixelValue colour)
+    : width_(size.width()),
+      height_(size.height()),
+      across_(tilesFor(width_)),
+      down_(tilesFor(height_)) {
+  const std::size_t count = index(0, down_);
+  pages_.reset(new Page[count]);
+  shown_.assign(count, plainPage(colour));
+  painted_.resize(count);
+  flags_.assign(count, ToShow | ToCopy);
+}
+
+void Tiles::mark(std::size_t tile) noexcept {
+  flags_[tile] = ToShow | ToCopy;
+  changed_ = true;
+}
+
+const Tiles::Page* Tiles::plainPage(PixelValue colour) {
+  for (const auto& page : plains_) {
+    if (page->front() == colour) return page.get();
+  }
+  plains_.push_back(std::make_unique<Page>());
+  plains_.back()->pixels.fill(colour);
+  return plains_.back().get();
+}
+
+PixelValue* Tiles::open(std::size_t tile) {
+  if (!isOwn(tile)) {
+    pages_[tile].pixels.fill(shown_[tile]->front());
+    shown_[tile] = &pages_[tile];
+  }
+  mark(tile);
+  return painted_[tile] = pages_[tile].data();
+}
+
+void Tiles::fillTile(std::size_t tile, const Page* plain) {
+  shown_[tile] = plain;
+  painted_[tile] = nullptr;
+  mark(tile);
+}
+
+void Tiles::fillTile(int column, int tileRow, PixelValue colour) {
+  fillTile(index(column, tileRow), plainPage(colour));
+}
+
+void Tiles::clear(PixelValue colour) {
+  const Page* const plain = plainPage(colour);
+  for (std::size_t tile = 0; tile < shown_.size(); ++tile) {
+    if (shown_[tile] != plain) fillTile(tile, plain);
+  }
+  std::erase_if(plains_, [plain](const auto& page) { return page.get() != plain; });
+}
+
+void Tiles::resize(QSize size, PixelValue colour) {
+  Tiles old(size, colour);
+  std::swap(*this, old);
+  for (int j = 0; j < std::min(down_, old.down_); ++j) {
+    for (int i = 0; i < std::min(across_, old.across_); ++i) {
+      const std::size_t from = old.index(i, j);
+      const std::size_t to = index(i, j);
+      if (old.isOwn(from)) {
+        pages_[to].pixels = old.pages_[from].pixels;
+        shown_[to] = &pages_[to];
+      } else {
+        shown_[to] = plainPage(old.shown_[from]->front());
+      }
+    }
+  }
+  // What the old image did not have of the tiles at its edges.
+  const auto fillStrip = [&](int left, int top, int right, int bottom) {
+    for (int y = top; y < bottom; ++y) {
+      for (int x = left; x < right; ++x) {
+        if (at(x, y) != colour) set(x, y, colour);
+      }
+    }
+  };
+  fillStrip(old.width_, 0, std::min(width_, old.across_ * side), std::min(height_, old.height_));
+  fillStrip(0, old.height_, std::min(width_, old.across_ * side),
+            std::min(height_, old.down_ * side));
+}
+
+void Tiles::fillAcross(int y, int from, int until, PixelValue colour) {
+  for (int column = tileOf(from); from < until; ++column) {
+    const int next = std::min(until, (column + 1) * side);
+    fillRun(paint(column, y) + inTile(from), next - from, colour);
+    from = next;
+  }
+}
+
+void Tiles::fillBand(const Band& band, PixelValue colour) {
+  Fixed left = band.left;
+  Fixed right = band.right;
+  for (int y = band.top; y < band.bottom;) {
+    const std::size_t tiles = index(0, tileOf(y));
+    PixelValue* const* const painted = painted_.data() + tiles;
+    const int next = std::min(band.bottom, (tileOf(y) + 1) * side);
+    for (; y < next; ++y, left += band.step, right += band.step) {
+      const int from = std::max(whole(left), 0);
+      const int until = std::min(whole(right), width_);
+      if (from >= until) continue;
+      const int first = tileOf(from);
+      if (first != tileOf(until - 1)) {
+        fillAcross(y, from, until, colour);
+        continue;
+      }
+      PixelValue* pixels = painted[first];
+      if (pixels == nullptr) pixels = open(tiles + static_cast<std::size_t>(first));
+      fillRun(pixels + inTile(y) * side + inTile(from), until - from, colour);
+    }
+  }
+}
+
+QRegion Tiles::takeChanged() {
+  if (!changed_) return {};
+  changed_ = false;
+  // Showing a few more tiles costs less than showing a rectangle more.
+  constexpr int narrow = 4;
+  std::vector<QRect> rects;
+  Runs above;
+  std::size_t firstOfAbove = 0;
+  for (int j = 0; j < down_; ++j) {
+    Runs runs;
+    for (int i = 0; i < across_; ++i) {
+      const std::size_t tile = index(i, j);
+      if ((flags_[tile] & ToShow) == 0) continue;
+      flags_[tile] &= static_cast<std::uint8_t>(~ToShow);
+      painted_[tile] = nullptr;
+      if (!runs.empty() && i - runs.back().second <= narrow) {
+        runs.back().second = i;
+      } else {
+        runs.emplace_back(i, i);
+      }
+    }
+    const int top = j * side;
+    const int bottom = std::min(top + side, height_) - 1;
+    if (!runs.empty() && runs == above) {
+      for (std::size_t r = firstOfAbove; r < rects.size(); ++r) rects[r].setBottom(bottom);
+    } else {
+      firstOfAbove = rects.size();
+      for (const auto& [first, last] : runs) {
+        rects.emplace_back(QPoint(first * side, top),
+                           QPoint(std::min((last + 1) * side, width_) - 1, bottom));
+      }
+      above = std::move(runs);
+    }
+  }
+  QRegion region;
+  region.setRects(rects.data(), static_cast<int>(rects.size()));
+  return region;
+}
+
+void Tiles::copyTo(QImage& image) {
+  const bool all = image.size() != QSize(width_, height_);
+  if (all) image = QImage(width_, height_, QImage::Format_RGB32);
+  const auto stride = image.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue));
+  PixelValue* first = nullptr;
+  for (int j = 0; j < down_; ++j) {
+    for (int i = 0; i < across_; ++i) {
+      const std::size_t tile = index(i, j);
+      if (!all && (flags_[tile] & ToCopy) == 0) continue;
+      flags_[tile] &= static_cast<std::uint8_t>(~ToCopy);
+      painted_[tile] = nullptr;
+      // Taken late, so that an image that is shared and not changed is not copied.
+      if (first == nullptr) first = reinterpret_cast<PixelValue*>(image.bits());
+      const auto columns = static_cast<std::size_t>(std::min(side, width_ - i * side));
+      for (int y = j * side; y < std::min((j + 1) * side, height_); ++y) {
+        std::memcpy(first + stride * y + i * side, row(i, y), columns * sizeof(PixelValue));
+      }
+    }
+  }
+}
+
+}  // namespace lensbench

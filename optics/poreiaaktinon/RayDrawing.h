@@ -1,0 +1,28 @@
+// Rays, wave points and moving fronts, drawn from paths that were traced.
+#pragma once
+
+#include "canvas/Canvas.h"
+#include "optics/light/RayPath.h"
+#include "optics/poreiaaktinon/Fronts.h"
+#include "optics/poreiaaktinon/Picture.h"
+
+namespace lensbench::poreiaaktinon {
+
+// A traced ray at width 1, by default red in air and blue in the glass; a dot of width 4 where a
+// blade stops it.
+void drawPath(Canvas& canvas, const light::RayPath& path);
+void drawPath(Canvas& canvas, const light::RayPath& path, Rgb air, Rgb glass);
+
+// Dots of width 2 at the whole tens of the optical path, in a colour for each stretch of the way;
+// only those that the drawing area shows.
+void drawWavePoints(Canvas& canvas, const light::RayPath& path);
+
+// Ray after ray, each with its wave points on it.
+void drawLight(Canvas& canvas, const Light& light);
+
+// Both fronts of moving waves at a step: the first, and from stepsBehind on the second.
+void drawFronts(Canvas& canvas, const Sent& sent, int step);
+// Takes away exactly what that drew.
+void rubOutFronts(Canvas& canvas, const Sent& sent, int step);
+
+}  // namespace lensbench::poreiaaktinon
