@@ -67,10 +67,15 @@ class Fill {
   }
 
  private:
+  std::size_t indexOf(int column, int tileRow) const {
+    return static_cast<std::size_t>(tileRow) * static_cast<std::size_t>(tiles_.across()) +
+           static_cast<std::size_t>(column);
+  }
+
   // Adds pixels of one row of a tile to what has been reached.
   void reach(int column, int tileRow, int row, Bits seeds) {
     if (column < 0 || tileRow < 0 || column >= tiles_.across() || tileRow >= tiles_.down()) return;
-    int& number = visitOf_[static_cast<std::size_t>(tileRow * tiles_.across() + column)];
+    int& number = visitOf_[indexOf(column, tileRow)];
     if (number < 0) {
       number = static_cast<int>(visits_.size());
       visits_.push_back({column, tileRow, openPixels(column, tileRow), {}});

@@ -84,7 +84,7 @@ class Tiles {
  private:
   struct alignas(64) Page {
     // Not set to anything, so that nothing is written.
-    Page() {}  // NOLINT(modernize-use-equals-default)
+    Page() {}  // NOLINT(modernize-use-equals-default, cppcoreguidelines-pro-type-member-init)
     PixelValue front() const noexcept { return pixels[0]; }
     PixelValue* data() noexcept { return pixels.data(); }
     const PixelValue* data() const noexcept { return pixels.data(); }
