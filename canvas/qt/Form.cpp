@@ -106,7 +106,9 @@ void Form::endDrag() {
 
 bool Form::event(QEvent* event) {
   if (event->type() == QEvent::WindowBlocked) endDrag();
-  if (event->type() == QEvent::WindowStateChange) stateChanged();
+  if (event->type() == QEvent::WindowStateChange) {
+    stateChanged(static_cast<QWindowStateChangeEvent*>(event)->oldState());
+  }
   return QMainWindow::event(event);
 }
 

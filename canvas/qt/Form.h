@@ -117,7 +117,7 @@ class Form : public QMainWindow {
   bool isOrdinary() const;
   void keepOrdinary();
   void makeOrdinary();
-  void stateChanged();
+  void stateChanged(Qt::WindowStates before);
   void becomeOrdinary();
   QRect framed() const;
   void moveFrame(QPoint upperLeft);

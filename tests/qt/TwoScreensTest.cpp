@@ -27,6 +27,10 @@ struct TwoScreens : ::testing::Test {
     QObject::connect(&form, &Form::Resized, [this] { ++told; });
     form.area().stale();
   }
+  ~TwoScreens() override {
+    form.canvas().disconnect(&form);
+    form.area().drawBy({});
+  }
 };
 
 TEST_F(TwoScreens, ThePictureFollowsTheFormToAnotherPixelRatioAndBack) {
