@@ -106,9 +106,7 @@ void Form::endDrag() {
 
 bool Form::event(QEvent* event) {
   if (event->type() == QEvent::WindowBlocked) endDrag();
-  if (event->type() == QEvent::WindowStateChange) {
-    stateChanged(static_cast<QWindowStateChangeEvent*>(event)->oldState());
-  }
+  if (event->type() == QEvent::WindowStateChange) stateChanged();
   return QMainWindow::event(event);
 }
 

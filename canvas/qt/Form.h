@@ -117,7 +117,7 @@ class Form : public QMainWindow {
   bool isOrdinary() const;
   void keepOrdinary();
   void makeOrdinary();
-  void stateChanged(Qt::WindowStates before);
+  void stateChanged();
   void becomeOrdinary();
   QRect framed() const;
   void moveFrame(QPoint upperLeft);

@@ -113,7 +113,7 @@ void Form::makeOrdinary() {
   if (!isOrdinary()) setWindowState(windowState() & kept);
 }
 
-void Form::stateChanged(Qt::WindowStates before) {
+void Form::stateChanged() {
   // Where the window manager made the window large first and maximised only then, the toolkit took
   // the display's size for the ordinary one.
   if (isMaximized() && !ordinary_ && normalGeometry() == geometry() && isLarge() &&
@@ -122,8 +122,7 @@ void Form::stateChanged(Qt::WindowStates before) {
   }
   // On its way from minimised to maximised a window is an ordinary one for an instant.
   constexpr int instant = 100;  // ms
-  QTimer::singleShot(before.testFlag(Qt::WindowMinimized) ? instant : 0, this,
-                     &Form::becomeOrdinary);
+  QTimer::singleShot(instant, this, &Form::becomeOrdinary);
 }
 
 void Form::becomeOrdinary() {

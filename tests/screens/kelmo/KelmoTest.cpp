@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QTest>
 
 #include "optics/poreiaaktinon/RayDrawing.h"
 
@@ -15,7 +16,8 @@ KelmoTest::KelmoTest() {
   screen.canvas().setOversampling(1);
   screen.setWindowState(Qt::WindowNoState);
   screen.show();
-  QApplication::processEvents();
+  // A window that has become an ordinary one is fitted to the display a moment later.
+  QTest::qWait(130);
   giveSize(usualSize);
   // Larger than the display, but not out of its reach: it is not fitted to it when it comes back.
   screen.move(-usualSize.width() / 4, 0);
