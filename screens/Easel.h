@@ -19,10 +19,9 @@ class Easel {
  public:
   explicit Easel(Form& form) : form_(form) {
     form_.area().drawBy([this] { bringUpToDate(); });
-    lost_ = QObject::connect(&form_.canvas(), &RasterCanvas::pictureLost, &form_, [this] {
-      drawn_.reset();
-      form_.area().stale();
-    });
+    // The area asks for the drawing by itself.
+    lost_ = QObject::connect(&form_.canvas(), &RasterCanvas::pictureLost, &form_,
+                             [this] { drawn_.reset(); });
   }
   ~Easel() {
     QObject::disconnect(lost_);

@@ -1,4 +1,4 @@
-// Captions followed by numbers.
+// Captions followed by numbers, and what more than one handler says.
 #pragma once
 
 #include <string>
@@ -11,5 +11,10 @@ namespace lensbench {
 inline QString labelled(const char* caption, const std::string& number) {
   return QString::fromUtf8(caption) + QString::fromStdString(number);
 }
+
+// Said of an index of refraction below 1: when a lens is opened or a bundle asked for, and when the
+// source is placed or the waves asked for.
+inline const QString lensRefused = QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value");
+inline const QString sceneRefused = QStringLiteral("δώσε μεγαλύτερο δείκτη");
 
 }  // namespace lensbench

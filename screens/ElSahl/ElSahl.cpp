@@ -11,6 +11,7 @@
 #include "screens/Handlers.h"
 #include "screens/Moves.h"
 #include "screens/Shared.h"
+#include "screens/Texts.h"
 
 namespace lensbench {
 
@@ -148,7 +149,7 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   atPress_ = diafragma();
   syromenigrammi1 = controls_.onUpperEdge(p);
   syromenigrammi2 = !syromenigrammi1 && controls_.onLowerEdge(p);
-  if (dragging() || !hasLensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"))) return;
+  if (dragging() || !hasLensOr(sceneRefused)) return;
   hintUsed();
   context_.shared.pigiX = X;
   context_.shared.pigiY = Y;
@@ -203,7 +204,7 @@ void ElSahl::RAYSANDWAVES_Click() {
 }
 
 void ElSahl::kymatikosahl_Click() {
-  if (!hasLensOr(QStringLiteral("δώσε μεγαλύτερο δείκτη"))) return;
+  if (!hasLensOr(sceneRefused)) return;
   const Scene scene = drawOver(askedFan());
   push(protosfakos::FrontsAgain{scene, context_.shared.desmiMode});
 }
@@ -212,7 +213,7 @@ void ElSahl::parallilidesmifotos_Click() {
   const auto answer =
       context_.dialogs.InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
                                 QStringLiteral("Angle in °"), QStringLiteral("0"));
-  if (!answer || !hasLensOr(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"))) return;
+  if (!answer || !hasLensOr(lensRefused)) return;
   const Variant pi = 4 * Atn(1);
   const Variant m = Tan(pi * (numberFromAnswer(*answer) / 180));
   clear();
@@ -265,8 +266,9 @@ bool ElSahl::hasLens() const {
 }
 
 bool ElSahl::hasLensOr(const QString& message) {
-  if (!hasLens()) context_.dialogs.MsgBox(message);
-  return hasLens();
+  const bool exists = hasLens();
+  if (!exists) context_.dialogs.MsgBox(message);
+  return exists;
 }
 
 }  // namespace lensbench

@@ -65,7 +65,7 @@ void eisagogiko::Command2_Click() {
 void eisagogiko::openLens(bool biconvex) {
   Shared& shared = context_.shared;
   if (!protosfakos::deriveLens(shared.deiktisSahl)) {
-    context_.dialogs.MsgBox(QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value"));
+    context_.dialogs.MsgBox(lensRefused);
     return;
   }
   shared.pigiX = sourceX;

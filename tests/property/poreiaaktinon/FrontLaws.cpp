@@ -95,7 +95,8 @@ TEST(FrontLaws, FrontsOfABundleAreSquareToItsRaysBeforeTheLens) {
     const double angle = random.real(-1.4, 1.4);
     const Point direction{std::cos(angle), std::sin(angle)};
     const double L = random.real(0.0, 500.0);
-    for (const RayPath& path : *send(setup, Desmi{angle, 100}, RandomBench::edges).paths) {
+    const Sent sent = send(setup, Desmi{angle, 100}, RandomBench::edges);
+    for (const RayPath& path : *sent.paths) {
       const auto front = pointAtOpticalPath(path, L);
       if (!front || path.pieces[0].medium != light::Medium::Air ||
           front->crossed != light::FacesCrossed{}) {
