@@ -16,6 +16,8 @@ EdgeMark::EdgeMark(Form& form, const QString& name, Rgb colour)
   FillStyle(lensbench::FillStyle::Solid);
   FillColor(colour);
   Visible(false);
+  // The controls that it keeps clear of do not go along with the picture.
+  InPicture(false);
 }
 
 void EdgeMark::follow(Point user) {

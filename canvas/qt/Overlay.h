@@ -29,6 +29,10 @@ class Overlay : public QObject {
   void BorderColor(Rgb colour);
   lensbench::BorderStyle BorderStyle() const noexcept { return borderStyle_; }
   void BorderStyle(lensbench::BorderStyle style);
+  // Whether it is part of what the picture says, as a blade is, and goes along when the picture is
+  // copied, saved or printed. What only helps the hand, such as a halo, does not. True at first.
+  bool InPicture() const noexcept { return inPicture_; }
+  void InPicture(bool part) noexcept { inPicture_ = part; }
 
   // Both in logical pixels of the client area.
   virtual QRectF bounds() const = 0;
@@ -53,6 +57,7 @@ class Overlay : public QObject {
 
   Form& form_;
   bool visible_ = true;
+  bool inPicture_ = true;
   Rgb borderColor_ = black;
   lensbench::BorderStyle borderStyle_ = BorderStyle::Solid;
 };
