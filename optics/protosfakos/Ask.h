@@ -1,0 +1,16 @@
+// What a picture of a hyperbolic lens shows at a point of it, in words.
+#pragma once
+
+#include <optional>
+
+#include "canvas/Answer.h"
+#include "optics/protosfakos/Picture.h"
+
+namespace lensbench::protosfakos {
+
+// What is drawn within reach of p, both in user units; nothing where nothing is. Points where rays
+// are refracted, reflected or stopped come before marked points, then fronts, then rays; among
+// equals the nearest, and of those the one drawn last. Reads the value and traces nothing.
+std::optional<Answer> ask(const Shown& shown, Point p, double reach);
+
+}  // namespace lensbench::protosfakos
