@@ -51,6 +51,14 @@ bool canConstruct(const CardinalPoints& points, Point source, Travel travel) {
   return source.y != 0.0 && source.x != p.F1 && source.x != p.N1 && p.F2 != p.H2;
 }
 
+Point imageOf(const CardinalPoints& points, Point source, Travel travel) {
+  const CardinalPoints p = inOrder(points, travel);
+  const Variant yS = source.y;
+  const Variant y = yS + (p.H1 - Variant(source.x)) * (-yS / (p.F1 - Variant(source.x)));
+  const Variant slope = -yS / Variant(p.F2 - p.H2);
+  return {(p.H2 + (y - yS) / slope).value(), y.value()};
+}
+
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points) {
   canvas.DrawWidth(1);  // a wider pen would not dot
   canvas.DrawStyle(DrawStyle::Dotted);
@@ -90,9 +98,9 @@ void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source
   line(xS, yS, p.N1, 0);
   line(p.N2, 0, end, (end - p.N2) * s3);
 
-  const Variant x = p.H2 + (y1 - yS) / s2;
+  const Point image = imageOf(points, source, travel);
   canvas.DrawWidth(palette::cardinalWidth);
-  canvas.PSet(x.value(), y1.value(), palette::construction);
+  canvas.PSet(image.x, image.y, palette::construction);
   canvas.DrawWidth(1);
 }
 

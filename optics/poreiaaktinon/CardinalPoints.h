@@ -36,6 +36,10 @@ Travel travelFrom(Point source, const Fakos& fakos);
 // below the focal or the nodal point on the side where light comes from.
 bool canConstruct(const CardinalPoints& points, Point source, Travel travel);
 
+// Where the constructed rays, or what is behind or before them on their lines, meet: the image of
+// the source. Division by zero (11) where canConstruct is false.
+Point imageOf(const CardinalPoints& points, Point source, Travel travel);
+
 // The principal planes, dotted, and the focal and nodal points as dots.
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points);
 // The rays from the source through F1, parallel to the axis, and through the nodal points, and the

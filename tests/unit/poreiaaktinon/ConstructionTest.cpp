@@ -59,6 +59,9 @@ void expectConstructionFollowsLight(const Fakos& fakos, double n, Point source, 
   // They meet in the image.
   const Operation& image = drawn[6];
   EXPECT_EQ(image.kind, Kind::PSet);
+  const Point computed = imageOf(cardinalPoints(fakos, n), source, travel);
+  EXPECT_EQ(computed.x, image.x1);
+  EXPECT_EQ(computed.y, image.y1);
   for (const auto& [before, behind] : rays) {
     EXPECT_NEAR(heightAt(drawn[behind], image.x1), image.y1, 1e-9 * std::fabs(image.y1));
   }
