@@ -15,7 +15,7 @@ cpack --config build/release/CPackConfig.cmake -B "$target" >&2
 package=$(echo "$target"/lensbench_*.deb)
 
 depends=$(dpkg-deb --field "$package" Depends)
-for needed in fonts-liberation libqt6widgets6; do
+for needed in fonts-liberation libqt6widgets6 libqt6svg6 libqt6printsupport6; do
   if [[ $depends != *"$needed"* ]]; then
     say "The package does not depend on $needed: $depends"
     exit 1

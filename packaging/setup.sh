@@ -2,8 +2,8 @@
 # What ./run, ./test and .ci/run share: the packages that they stand on, and building a preset.
 # To be sourced from the root of the tree.
 
-# Compiler, build tools, toolkit, and the faces that carry the Greek texts.
-build_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
+# Compiler, build tools, toolkit with vector pictures, and the faces that carry the Greek texts.
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev fonts-liberation)
 # What a desktop with Wayland alone needs on top, and such a desktop that nobody sees.
 wayland_packages=(qt6-wayland)
 compositor_packages=(weston)

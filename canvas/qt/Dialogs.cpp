@@ -1,8 +1,15 @@
 #include "canvas/qt/Dialogs.h"
 
+#include <algorithm>
+
 #include <QApplication>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QSettings>
+#include <QStandardPaths>
 
 #include "canvas/qt/Clock.h"
 
@@ -20,6 +27,20 @@ void showBox(Clock& clock, QMessageBox::Icon icon, const QString& title, const Q
   box.exec();
 }
 
+// A box for files would write down in the toolkit's settings what folders were visited.
+void keepNoSettings() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
+
+QString picturesFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
+QString filterOf(const FileKind& kind) {
+  return QStringLiteral("%1 (*.%2)").arg(kind.name, kind.suffix);
+}
+
 }  // namespace
 
 void QtDialogs::MsgBox(const QString& text, const QString& title) {
@@ -33,6 +54,49 @@ std::optional<QString> QtDialogs::InputBox(const QString& prompt, const QString&
   const QString answer = QInputDialog::getText(QApplication::activeWindow(), titleOr(title), prompt,
                                                QLineEdit::Normal, defaultAnswer, &accepted);
   return accepted ? std::optional(answer) : std::nullopt;
+}
+
+std::optional<QString> QtDialogs::SaveBox(const QString& title, const QString& proposed,
+                                          const QList<FileKind>& kinds) {
+  const TickHold hold(clock_);
+  keepNoSettings();
+  QFileDialog box(QApplication::activeWindow(), titleOr(title),
+                  folder_.isEmpty() ? picturesFolder() : folder_);
+  box.setAcceptMode(QFileDialog::AcceptSave);
+  QStringList filters;
+  for (const FileKind& kind : kinds) filters << filterOf(kind);
+  box.setNameFilters(filters);
+  const auto chosenSuffix = [&] {
+    return kinds.value(filters.indexOf(box.selectedNameFilter()), kinds.front()).suffix;
+  };
+  const auto addSuffix = [&] { box.setDefaultSuffix(chosenSuffix()); };
+  QObject::connect(&box, &QFileDialog::filterSelected, &box, addSuffix);
+  addSuffix();
+  box.selectFile(proposed);
+  while (box.exec() == QDialog::Accepted) {
+    QString name = box.selectedFiles().constFirst();
+    folder_ = QFileInfo(name).path();
+    const QString suffix = QFileInfo(name).suffix();
+    const bool known = std::any_of(kinds.begin(), kinds.end(), [&](const FileKind& kind) {
+      return suffix.compare(kind.suffix, Qt::CaseInsensitive) == 0;
+    });
+    // What stands behind the dot of "n=1.5" is none.
+    if (!known) name += QLatin1Char('.') + chosenSuffix();
+    if (known || !QFileInfo::exists(name)) return name;
+    // The box has not asked about this name yet.
+    box.selectFile(name);
+  }
+  return std::nullopt;
+}
+
+Printing QtDialogs::PrintBox(QPrinter& printer) {
+  const TickHold hold(clock_);
+  keepNoSettings();
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return Printing::NoPrinter;
+  QPrintDialog box(&printer, QApplication::activeWindow());
+  // There is one page.
+  box.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  return box.exec() == QDialog::Accepted ? Printing::Wanted : Printing::Cancelled;
 }
 
 void QtDialogs::Critical(const QString& title, const QString& text, const QString& informative) {

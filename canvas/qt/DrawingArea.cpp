@@ -100,12 +100,32 @@ void DrawingArea::paintEvent(QPaintEvent* event) {
   frame(event->region());
   QPainter painter(this);
   for (const QRect& part : event->region()) paintPicture(painter, part);
+  paintOverlays(painter, [](const Overlay&) { return true; });
+}
+
+QImage DrawingArea::picture() {
+  bringUpToDate();
+  QImage picture(canvas_.displaySize(), QImage::Format_RGB32);
+  picture.setDevicePixelRatio(canvas_.devicePixelRatio());
+  QPainter painter(&picture);
+  paintPicture(painter, QRect(QPoint(0, 0), canvas_.size()));
+  paintInPicture(painter);
+  return picture;
+}
+
+void DrawingArea::paintInPicture(QPainter& painter) const {
+  paintOverlays(painter, [](const Overlay& overlay) { return overlay.InPicture(); });
+}
+
+template <typename Wanted>
+void DrawingArea::paintOverlays(QPainter& painter, Wanted&& wanted) const {
   painter.setRenderHint(QPainter::Antialiasing);
   // As on the canvas, a point stands in the middle of its pixel.
   painter.translate(0.5, 0.5);
   for (const Overlay* overlay : findChildren<Overlay*>(Qt::FindDirectChildrenOnly)) {
-    if (overlay->Visible()) overlay->paint(painter);
+    if (overlay->Visible() && wanted(*overlay)) overlay->paint(painter);
   }
+  painter.translate(-0.5, -0.5);
 }
 
 // Pixel by pixel of the display, whatever its ratio.

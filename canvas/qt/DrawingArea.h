@@ -27,6 +27,10 @@ class DrawingArea : public QWidget {
   void stale();
   // The picture up to date.
   const QImage& image();
+  // What is seen, at the display's pixels: the picture and those overlays that belong to it.
+  QImage picture();
+  // Those overlays, on a painter in logical pixels of the area.
+  void paintInPicture(QPainter& painter) const;
 
   // Gives the canvas the size and the pixel ratio that the widget has.
   void fitCanvas();
@@ -55,6 +59,8 @@ class DrawingArea : public QWidget {
   // Brings the picture up to date and shows what has changed outside what is being painted anyway.
   void frame(const QRegion& painted);
   void paintPicture(QPainter& painter, const QRect& part);
+  template <typename Wanted>
+  void paintOverlays(QPainter& painter, Wanted&& wanted) const;
   void keepOverlaysInPlace(const UserMapping& old);
 
   RasterCanvas canvas_;

@@ -131,14 +131,13 @@ double PainterCanvas::paintText(Point upperLeft, std::string_view text, const Fo
   const QFontMetricsF metrics(face);
   const Point corner = mappingOf(*this).toPixel(upperLeft);
   if (isFinite(corner)) {
-    painter_.save();
-    painter_.translate(corner.x, corner.y);
-    painter_.scale(1.0 / detail, 1.0 / detail);
-    painter_.setFont(face);
-    painter_.setPen(colourOf(colour));
-    painter_.drawText(QPointF(0.0, metrics.ascent()),
-                      QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    painter_.restore();
+    // As outlines, which need no font where they are looked at.
+    QPainterPath letters;
+    letters.addText(0.0, metrics.ascent(), face,
+                    QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const auto toArea =
+        QTransform::fromTranslate(corner.x, corner.y).scale(1.0 / detail, 1.0 / detail);
+    painter_.fillPath(toArea.map(letters), colourOf(colour));
   }
   return metrics.lineSpacing() / detail;
 }
