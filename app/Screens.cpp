@@ -85,6 +85,12 @@ void Screens::leaveIbnSahl() {
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }
 
+void Screens::undo() {}
+
+void Screens::redo() {}
+
+void Screens::help() {}
+
 light::Diafragma Screens::diafragma() { return kelmo().diafragma(); }
 
 void Main(Screens& screens) {

@@ -36,6 +36,9 @@ class Screens : public Moves {
   void drawIbnSahl() override;
   void leaveIbnSahl() override;
   [[noreturn]] void End() override;
+  void undo() override;
+  void redo() override;
+  void help() override;
   light::Diafragma diafragma() override;
 
   Shared& shared() noexcept { return shared_; }

@@ -28,6 +28,12 @@ class Moves {
   // Both "END" entries: the process ends at once, with exit status 0.
   virtual void End() = 0;
 
+  // One step back and forth in the history of the whole program; nothing where there is none.
+  virtual void undo() = 0;
+  virtual void redo() = 0;
+  // The window of keys and of what can be taken on the screen in front.
+  virtual void help() = 0;
+
   // The diaphragm of the workbench, which stops the ray of the single-ray screen too.
   virtual light::Diafragma diafragma() = 0;
 

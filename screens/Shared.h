@@ -11,6 +11,8 @@ struct Shared {
   Variant pigiX, pigiY;         // pigi: source of the fan on the Ibn Sahl screen, user units
   bool desmiMode = false;       // desmi: bundle; what the workbench sent last
   bool onlyWavesAsked = false;  // "ONLY WAVES" was chosen and no press came after it
+  bool follow = false;          // every change repeats what stands on the picture
+  bool paused = false;          // the waves that run stand still; a new run ends the pause
 };
 
 }  // namespace lensbench

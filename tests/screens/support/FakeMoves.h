@@ -21,6 +21,9 @@ class FakeMoves : public Moves {
   void drawIbnSahl() override { made.emplace_back("drawIbnSahl"); }
   void leaveIbnSahl() override { made.emplace_back("leaveIbnSahl"); }
   void End() override { made.emplace_back("End"); }
+  void undo() override { made.emplace_back("undo"); }
+  void redo() override { made.emplace_back("redo"); }
+  void help() override { made.emplace_back("help"); }
   light::Diafragma diafragma() override { return opening; }
 };
 

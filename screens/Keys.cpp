@@ -1,0 +1,152 @@
+#include "screens/Keys.h"
+
+#include <algorithm>
+
+#include <QKeyEvent>
+
+namespace lensbench {
+
+const std::vector<Key>& keys() {
+  static const std::vector<Key> table{
+      {Command::Help,
+       KeyScope::Program,
+       {Qt::Key_F1},
+       "F1",
+       "Ανοίγει αυτό το παράθυρο βοήθειας.",
+       "Opens this help window."},
+      {Command::Undo,
+       KeyScope::Program,
+       {Qt::CTRL | Qt::Key_Z},
+       "Ctrl+Z",
+       "Αναιρεί το τελευταίο βήμα.",
+       "Undoes the last step."},
+      {Command::Redo,
+       KeyScope::Program,
+       {Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+       "Ctrl+Shift+Z",
+       "Ξανακάνει το βήμα που αναιρέθηκε.",
+       "Redoes the step that was undone."},
+      {Command::Escape,
+       KeyScope::Program,
+       {Qt::Key_Escape},
+       "Esc",
+       "Αφήνει ό,τι σύρεται και το γυρίζει στη θέση του· αλλιώς φεύγει από την πλήρη οθόνη· "
+       "αλλιώς γυρίζει στην προηγούμενη οθόνη.",
+       "Leaves a drag and puts everything back; else leaves full screen; else goes back a screen."},
+      {Command::FullScreen,
+       KeyScope::Drawing,
+       {Qt::Key_F11},
+       "F11",
+       "Δείχνει το παράθυρο σε πλήρη οθόνη, και πάλι όπως ήταν.",
+       "Makes the window full screen, and again what it was."},
+      {Command::Follow,
+       KeyScope::Drawing,
+       {Qt::CTRL | Qt::Key_L},
+       "Ctrl+L",
+       "Παρακολούθηση, ναι ή όχι: όσο ισχύει, κάθε αλλαγή επαναλαμβάνει ό,τι στέκεται στην εικόνα "
+       "με τις νέες τιμές.",
+       "Follow, on or off: while it is on, every change repeats what stands on the picture with "
+       "the new values."},
+      {Command::Repeat,
+       KeyScope::Drawing,
+       {Qt::Key_F5},
+       "F5",
+       "Επαναλαμβάνει μία φορά ό,τι στέκεται στην εικόνα, με τις τωρινές τιμές.",
+       "Repeats what stands on the picture once, with the present values."},
+      {Command::Copy,
+       KeyScope::Drawing,
+       {Qt::CTRL | Qt::Key_C},
+       "Ctrl+C",
+       "Αντιγράφει την εικόνα.",
+       "Copies the picture."},
+      {Command::Save,
+       KeyScope::Drawing,
+       {Qt::CTRL | Qt::Key_S},
+       "Ctrl+S",
+       "Αποθηκεύει την εικόνα ως PNG, SVG ή PDF.",
+       "Saves the picture as PNG, SVG or PDF."},
+      {Command::Print,
+       KeyScope::Drawing,
+       {Qt::CTRL | Qt::Key_P},
+       "Ctrl+P",
+       "Τυπώνει την εικόνα σε μία σελίδα.",
+       "Prints the picture on one page."},
+      {Command::NextThing,
+       KeyScope::DrawingArea,
+       {Qt::Key_Tab},
+       "Tab",
+       "Πηγαίνει στο επόμενο που πιάνεται πάνω στην εικόνα, και μετά στο επόμενο χειριστήριο.",
+       "Goes to the next thing on the picture that can be taken, and then on to the next control."},
+      {Command::PreviousThing,
+       KeyScope::DrawingArea,
+       {Qt::Key_Backtab, Qt::SHIFT | Qt::Key_Backtab, Qt::SHIFT | Qt::Key_Tab},
+       "Shift+Tab",
+       "Πηγαίνει στο προηγούμενο.",
+       "Goes to the one before."},
+      {Command::Move,
+       KeyScope::DrawingArea,
+       {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down},
+       "← → ↑ ↓",
+       "Μετακινεί κατά 1 μονάδα ό,τι έχει το πλαίσιο.",
+       "Moves what the ring is around by 1 unit."},
+      {Command::MoveFar,
+       KeyScope::DrawingArea,
+       {Qt::SHIFT | Qt::Key_Left, Qt::SHIFT | Qt::Key_Right, Qt::SHIFT | Qt::Key_Up,
+        Qt::SHIFT | Qt::Key_Down},
+       "Shift + ← → ↑ ↓",
+       "Το μετακινεί κατά 10 μονάδες.",
+       "Moves it by 10 units."},
+      {Command::MoveFine,
+       KeyScope::DrawingArea,
+       {Qt::CTRL | Qt::Key_Left, Qt::CTRL | Qt::Key_Right, Qt::CTRL | Qt::Key_Up,
+        Qt::CTRL | Qt::Key_Down},
+       "Ctrl + ← → ↑ ↓",
+       "Μετακινεί την πηγή ή το διάφραγμα κατά ένα δέκατο της μονάδας· ακτίνες και κέντρα αλλάζουν "
+       "πάντα κατά ακέραιες μονάδες.",
+       "Moves the source or the diaphragm by a tenth of a unit; radii and centres always change by "
+       "whole units."},
+      {Command::Enter,
+       KeyScope::DrawingArea,
+       {Qt::Key_Return, Qt::Key_Enter},
+       "Enter",
+       "Πάνω στην πηγή: στέλνει το φως της.",
+       "At the source: sends its light."},
+      {Command::PauseWaves,
+       KeyScope::Waves,
+       {Qt::Key_Space},
+       "Διάστημα · Space",
+       "Σταματά τα κύματα που κινούνται, και πάλι τα συνεχίζει.",
+       "Pauses the waves that move, and lets them go on."},
+      {Command::StepForward,
+       KeyScope::Waves,
+       {Qt::Key_Period},
+       "Τελεία · Full stop ( . )",
+       "Όσο είναι σταματημένα, τα πηγαίνει ένα βήμα εμπρός.",
+       "While they are paused, takes them one step forward."},
+      {Command::StepBack,
+       KeyScope::Waves,
+       {Qt::Key_Comma},
+       "Κόμμα · Comma ( , )",
+       "Όσο είναι σταματημένα, τα πηγαίνει ένα βήμα πίσω.",
+       "While they are paused, takes them one step back."},
+      {Command::RestartWaves,
+       KeyScope::Waves,
+       {Qt::Key_Home},
+       "Home",
+       "Ξεκινά τα κύματα από την αρχή.",
+       "Starts the waves anew."},
+  };
+  return table;
+}
+
+const Key* keyOf(const QKeyEvent& event) {
+  const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
+                                event.keyCombination().key());
+  for (const Key& key : keys()) {
+    const auto& any = key.combinations;
+    if (std::find(any.begin(), any.end(), pressed) != any.end()) return &key;
+  }
+  return nullptr;
+}
+
+}  // namespace lensbench
