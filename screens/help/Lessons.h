@@ -33,10 +33,10 @@ struct OnWorkbench {
   int xc2 = 20;   // centre of the right circle
   int n = 150;    // index of refraction, hundredths
   int desmi1 = 20;
-  light::Diafragma diafragma;
+  light::Diafragma diafragma{};
   Point source{-200.0, 0.0};
   bool waves = false;  // with the rays
-  std::variant<Fan, Bundle, Marks> light;
+  std::variant<Fan, Bundle, Marks> light{};
 };
 
 // One ray from the source towards where it is aimed; the diaphragm is that of the workbench.
@@ -45,17 +45,17 @@ struct OnSingleRay {
   int R2 = 100;   // radius of the right circle, the left face
   int xc2 = 100;  // centre of the right circle
   int n = 150;    // hundredths
-  light::Diafragma diafragma;
-  Point source;
-  Point aim;
+  light::Diafragma diafragma{};
+  Point source{};
+  Point aim{};
 };
 
 // A bundle through a lens of Ibn Sahl's, with rays and fronts.
 struct OnIbnSahl {
   bool amfikyrtos = false;  // biconvex
   int n = 150;              // hundredths
-  light::Diafragma diafragma;
-  Bundle light;
+  light::Diafragma diafragma{};
+  Bundle light{};
 };
 
 struct Lesson {
