@@ -48,7 +48,9 @@ Travel travelFrom(Point source, const Fakos& fakos) {
 
 bool canConstruct(const CardinalPoints& points, Point source, Travel travel) {
   const CardinalPoints p = inOrder(points, travel);
-  return source.y != 0.0 && source.x != p.F1 && source.x != p.N1 && p.F2 != p.H2;
+  if (p.F2 == p.H2 || source.x == p.F1 || source.x == p.N1) return false;
+  // So near the axis that nothing is left of the slope is on it.
+  return source.y / (p.F2 - p.H2) != 0.0;
 }
 
 Point imageOf(const CardinalPoints& points, Point source, Travel travel) {

@@ -59,6 +59,8 @@ TEST(CanConstruct, NeedsASourceOffTheAxisAndOffF1AndN1) {
   const CardinalPoints p = cardinalPoints({-50.0, 100.0, 20.0, 90.0}, 1.5);
   EXPECT_TRUE(canConstruct(p, {-200.0, 30.0}, Travel::Right));
   EXPECT_FALSE(canConstruct(p, {-200.0, 0.0}, Travel::Right));
+  // A slope that underflows to 0.
+  EXPECT_FALSE(canConstruct(p, {-200.0, 5e-324}, Travel::Right));
   EXPECT_FALSE(canConstruct(p, {p.F1, 30.0}, Travel::Right));
   EXPECT_FALSE(canConstruct(p, {p.N1, 30.0}, Travel::Right));
 }
