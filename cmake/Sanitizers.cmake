@@ -7,3 +7,8 @@ endif()
 if(LENSBENCH_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+# Counters for tests/coverage.sh.
+if(LENSBENCH_COVERAGE)
+  add_compile_options(--coverage -fno-inline)
+  add_link_options(--coverage)
+endif()
