@@ -2,15 +2,19 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QTimerEvent>
 
 #include "canvas/qt/Overlay.h"
 
 namespace lensbench {
 namespace {
+
+constexpr int tellingPause = 500;  // milliseconds
 
 const auto frameEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
@@ -83,6 +87,21 @@ void DrawingArea::hideEvent(QHideEvent* event) {
   if (draw_) canvas_.giveUpPixels();
 }
 
+void DrawingArea::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != beforeTelling_.timerId()) return QWidget::timerEvent(event);
+  beforeTelling_.stop();
+  tellWords();
+}
+
+void DrawingArea::tellWords() {
+  if (!QAccessible::isActive() || !isVisible()) return;
+  const QString now = words();
+  if (now == toldWords_) return;
+  toldWords_ = now;
+  QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&changed);
+}
+
 void DrawingArea::frame(const QRegion& painted) {
   bringUpToDate();
   const double ratio = canvas_.devicePixelRatio();
@@ -97,6 +116,9 @@ void DrawingArea::frame(const QRegion& painted) {
 
 void DrawingArea::paintEvent(QPaintEvent* event) {
   if (canvas_.devicePixelRatio() != devicePixelRatioF()) fitCanvas();
+  if (inWords_ && QAccessible::isActive() && !beforeTelling_.isActive()) {
+    beforeTelling_.start(tellingPause, this);
+  }
   frame(event->region());
   QPainter painter(this);
   for (const QRect& part : event->region()) paintPicture(painter, part);

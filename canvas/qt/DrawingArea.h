@@ -2,8 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
+#include <QBasicTimer>
 #include <QImage>
+#include <QString>
 #include <QWidget>
 
 #include "canvas/qt/RasterCanvas.h"
@@ -32,6 +35,13 @@ class DrawingArea : public QWidget {
   // Those overlays, on a painter in logical pixels of the area.
   void paintInPicture(QPainter& painter) const;
 
+  // How the picture is put in words for those who cannot see it; nothing but a screen reader asks.
+  void describeBy(std::function<QString()> inWords) { inWords_ = std::move(inWords); }
+  QString words() const { return inWords_ ? inWords_() : accessibleDescription(); }
+  // Tells screen readers, if there are any, when the words are no longer those told last. By itself
+  // the area does so at most twice a second while the picture changes.
+  void tellWords();
+
   // Gives the canvas the size and the pixel ratio that the widget has.
   void fitCanvas();
 
@@ -49,6 +59,7 @@ class DrawingArea : public QWidget {
   void resizeEvent(QResizeEvent*) override { fitCanvas(); }
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override { emit pressed(event); }
   void mouseMoveEvent(QMouseEvent* event) override { emit moved(event); }
   void mouseReleaseEvent(QMouseEvent* event) override { emit released(event); }
@@ -66,6 +77,9 @@ class DrawingArea : public QWidget {
   RasterCanvas canvas_;
   QImage strip_;  // of the display, on its way there
   std::function<void()> draw_;
+  std::function<QString()> inWords_;
+  QString toldWords_;
+  QBasicTimer beforeTelling_;
   bool stale_ = false;
   bool drawing_ = false;
   bool frameWanted_ = false;

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "canvas/qt/Accessibility.h"
 #include "canvas/qt/DrawingArea.h"
 #include "canvas/qt/MenuBar.h"
 
@@ -26,6 +27,7 @@ int shiftNumber(Qt::KeyboardModifiers keys) {
 }  // namespace
 
 Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
+  speakOfForms();
   setObjectName(design.name);
   setWindowTitle(design.caption);
   setCentralWidget(area_);

@@ -59,6 +59,7 @@ class StyleWithMarks : public QProxyStyle {
 }  // namespace
 
 MenuBar::MenuBar(QWidget* form) : QMenuBar(form) {
+  setAccessibleName(QStringLiteral("Εντολές · Commands"));
   auto* style = new StyleWithMarks;
   style->setParent(this);
   setStyle(style);

@@ -1,5 +1,7 @@
 #include "canvas/qt/MenuEntry.h"
 
+#include <QAccessible>
+
 #include "canvas/qt/Form.h"
 
 namespace lensbench {
@@ -19,7 +21,12 @@ MenuEntry::MenuEntry(Form& form, const QString& name, const QString& caption)
 void MenuEntry::Checked(bool checked) {
   checked_ = checked;
   setCheckable(true);
+  if (checked == isChecked()) return;
   setChecked(checked);
+  QAccessible::State changed;
+  changed.checked = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace lensbench
