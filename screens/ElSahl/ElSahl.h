@@ -16,6 +16,8 @@ class ElSahl : public Form {
 
   SahlControls& controls() { return controls_; }
   const protosfakos::Shown& shown() const { return easel_.shown(); }
+  // The picture in words, a Greek line and an English one, for those who cannot see it.
+  QString inWords() const;
 
   // What the lens menu does to this screen before it draws: a square window at the upper-left
   // corner of the display, two thirds of the display high and no wider than it, shown with the

@@ -17,6 +17,8 @@ class moniaktina : public Form {
 
   MoniaktinaControls& controls() { return controls_; }
   const poreiaaktinon::single::Shown& shown() const { return easel_.shown(); }
+  // The picture in words, a Greek line and an English one, for those who cannot see it.
+  QString inWords() const;
 
   // Fills the display and puts the origin in the middle of the client area, which is 1200 units
   // wide and high together; a unit is as long in x as in y.
