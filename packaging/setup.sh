@@ -14,7 +14,7 @@ virtual_display_packages=(xvfb openbox xdotool imagemagick)
 test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
   icewm wmctrl x11-utils x11-xserver-utils
   binutils strace
-  desktop-file-utils appstream librsvg2-bin groff-base)
+  desktop-file-utils appstream librsvg2-bin poppler-utils groff-base)
 # llvm brings the symbolizer that the sanitizers' reports and suppressions need.
 check_packages=(git clang libclang-rt-dev llvm clang-format clang-tidy shellcheck)
 # What makes a package and finds fault with it.

@@ -81,11 +81,13 @@ QByteArray svg(const TakenPicture& picture) {
 
 QByteArray pdf(const TakenPicture& picture) {
   const QSizeF size = QSizeF(picture.form.canvas().size()) * (pointsPerInch / dotsPerInch);
+  // A page has whole points.
+  const QSizeF page(std::ceil(size.width()), std::ceil(size.height()));
   QBuffer file;
   file.open(QIODevice::WriteOnly);
   QPdfWriter device(&file);
   device.setTitle(titleOf(picture));
-  device.setPageSize(QPageSize(size, QPageSize::Point, {}, QPageSize::ExactMatch));
+  device.setPageSize(QPageSize(page, QPageSize::Point, {}, QPageSize::ExactMatch));
   device.setPageMargins({});
   printOn(device, picture);
   return file.data();
