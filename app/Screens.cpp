@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "app/Application.h"
+#include "app/Steps.h"
 #include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
 #include "optics/poreiaaktinon/Named.h"
@@ -18,7 +19,8 @@ namespace lensbench {
 
 // The routines that take no screen find theirs here, and make it when they are the first to.
 Screens::Screens(Dialogs& dialogs, Clock& clock, Actions& actions)
-    : context_{*this, dialogs, clock, actions, shared_} {
+    : context_{*this, dialogs, clock, actions, shared_},
+      steps_(std::make_unique<Steps>(*this, actions)) {
   poreiaaktinon::connectWorkbench({.canvas = [this]() -> Canvas& { return kelmo().canvas(); },
                                    .bench = [this] { return kelmo().bench(); },
                                    .vima = [this] { return kelmo().vima(); },
@@ -42,7 +44,10 @@ Screens::~Screens() {
 
 template <typename Screen>
 Screen& Screens::existing(std::unique_ptr<Screen>& screen) {
-  if (!screen) screen = std::make_unique<Screen>(context_);
+  if (!screen) {
+    screen = std::make_unique<Screen>(context_);
+    tellFollow(*screen);
+  }
   return *screen;
 }
 
@@ -85,9 +90,26 @@ void Screens::leaveIbnSahl() {
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }
 
-void Screens::undo() {}
+void Screens::undo() { steps_->undo(); }
 
-void Screens::redo() {}
+void Screens::redo() { steps_->redo(); }
+
+void Screens::toggleFollow() {
+  shared_.follow = !shared_.follow;
+  if (kelmo_) tellFollow(*kelmo_);
+  if (moniaktina_) tellFollow(*moniaktina_);
+  if (ElSahl_) tellFollow(*ElSahl_);
+}
+
+void Screens::tellFollow(Form& screen) const {
+  if (&screen == eisagogiko_.get()) return;
+  screen.titleNote(shared_.follow ? QStringLiteral(" · η εικόνα ακολουθεί · the picture follows")
+                                  : QString());
+}
+
+void Screens::followIndex() {
+  if (ElSahl_ && ElSahl_->isVisible()) ElSahl_->followValues();
+}
 
 void Screens::help() {}
 

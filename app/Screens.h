@@ -9,10 +9,13 @@
 
 namespace lensbench {
 
+class Form;
 class kelmo;
 class moniaktina;
 class eisagogiko;
 class ElSahl;
+class Steps;
+struct ProgramState;
 
 class Screens : public Moves {
  public:
@@ -39,13 +42,22 @@ class Screens : public Moves {
   void undo() override;
   void redo() override;
   void help() override;
+  void toggleFollow() override;
+  void followIndex() override;
   light::Diafragma diafragma() override;
+
+  // The screens that there are as a value to be kept, and as they were: with no action, box or
+  // error, with waves at rest, and with the screens in front where something is different now.
+  ProgramState state() const;
+  void restore(const ProgramState& to);
 
   Shared& shared() noexcept { return shared_; }
 
  private:
   template <typename Screen>
   Screen& existing(std::unique_ptr<Screen>& screen);
+  // Says in the title of a drawing screen that it follows.
+  void tellFollow(Form& screen) const;
 
   Shared shared_;
   Context context_;
@@ -53,6 +65,7 @@ class Screens : public Moves {
   std::unique_ptr<lensbench::moniaktina> moniaktina_;
   std::unique_ptr<lensbench::eisagogiko> eisagogiko_;
   std::unique_ptr<lensbench::ElSahl> ElSahl_;
+  std::unique_ptr<Steps> steps_;
 };
 
 // Start-up: prepares the Ibn Sahl screen and the lens menu without showing them, and shows the

@@ -18,13 +18,18 @@ QString nameOf(const QObject& sender) {
 
 }  // namespace
 
-ActionScope::ActionScope(Actions& actions, const QObject& sender)
-    : actions_(actions), outer_(actions.current_) {
+ActionScope::ActionScope(Actions& actions, const QObject& sender, By by)
+    : actions_(actions), outer_(actions.current_), by_(by) {
+  if (!actions_.running() && actions_.watch_.began) actions_.watch_.began(by_);
+  ++actions_.depth_;
   actions_.current_ = nameOf(sender);
 }
 
 ActionScope::~ActionScope() {
-  if (std::uncaught_exceptions() == errorsBefore_) actions_.current_ = outer_;
+  --actions_.depth_;
+  if (std::uncaught_exceptions() != errorsBefore_) return;
+  actions_.current_ = outer_;
+  if (!actions_.running() && actions_.watch_.ended) actions_.watch_.ended(by_);
 }
 
 }  // namespace lensbench

@@ -2,14 +2,30 @@
 #pragma once
 
 #include <exception>
+#include <functional>
+#include <utility>
 
 #include <QObject>
 #include <QString>
 
 namespace lensbench {
 
+// Who carries an action out: a person, or the program by itself, as a timer or a new size of a
+// window does.
+enum class By { Hand, Itself };
+
 class Actions {
  public:
+  // Is told when an action begins, and when it has ended without an error; of actions within
+  // others the outermost alone. Neither may throw.
+  struct Watch {
+    std::function<void(By)> began;
+    std::function<void(By)> ended;
+  };
+  void watchBy(Watch watch) { watch_ = std::move(watch); }
+  // Whether an action is being carried out.
+  [[nodiscard]] bool running() const noexcept { return depth_ > 0; }
+
   // The action that is being carried out, or, after an error, the one that met it: the bilingual
   // accessible name of the control, menu entry or form that the event came from. Empty at start.
   [[nodiscard]] const QString& current() const noexcept { return current_; }
@@ -17,13 +33,15 @@ class Actions {
  private:
   friend class ActionScope;
   QString current_;
+  Watch watch_;
+  int depth_ = 0;  // actions within actions
 };
 
 // Marks the sender's action as the current one while it lives; an error leaves the mark standing,
 // so that the error boundary can say where it happened.
 class ActionScope {
  public:
-  ActionScope(Actions& actions, const QObject& sender);
+  ActionScope(Actions& actions, const QObject& sender, By by = By::Hand);
   ~ActionScope();
   ActionScope(const ActionScope&) = delete;
   ActionScope& operator=(const ActionScope&) = delete;
@@ -31,6 +49,7 @@ class ActionScope {
  private:
   Actions& actions_;
   QString outer_;
+  By by_;
   int errorsBefore_ = std::uncaught_exceptions();
 };
 
@@ -38,11 +57,12 @@ class ActionScope {
 // &kelmo::aktina1_Change).
 template <typename Sender, typename Owner, typename... Args, typename Screen>
 void on(Actions& actions, Sender& sender, void (Owner::*signal)(Args...), Screen& screen,
-        void (Screen::*handler)(Args...)) {
-  QObject::connect(&sender, signal, &screen, [&actions, &sender, &screen, handler](Args... args) {
-    const ActionScope scope(actions, sender);
-    (screen.*handler)(args...);
-  });
+        void (Screen::*handler)(Args...), By by = By::Hand) {
+  QObject::connect(&sender, signal, &screen,
+                   [&actions, &sender, &screen, handler, by](Args... args) {
+                     const ActionScope scope(actions, sender, by);
+                     (screen.*handler)(args...);
+                   });
 }
 
 }  // namespace lensbench

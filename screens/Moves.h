@@ -33,6 +33,10 @@ class Moves {
   virtual void redo() = 0;
   // The window of keys and of what can be taken on the screen in front.
   virtual void help() = 0;
+  // Turns following on and off, for all screens: every change repeats what stands on the picture.
+  virtual void toggleFollow() = 0;
+  // Lens menu: while following, the open Ibn Sahl screen repeats its scene with the shared index.
+  virtual void followIndex() = 0;
 
   // The diaphragm of the workbench, which stops the ray of the single-ray screen too.
   virtual light::Diafragma diafragma() = 0;

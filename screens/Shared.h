@@ -13,6 +13,8 @@ struct Shared {
   bool onlyWavesAsked = false;  // "ONLY WAVES" was chosen and no press came after it
   bool follow = false;          // every change repeats what stands on the picture
   bool paused = false;          // the waves that run stand still; a new run ends the pause
+
+  friend bool operator==(const Shared&, const Shared&) = default;
 };
 
 }  // namespace lensbench

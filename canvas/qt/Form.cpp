@@ -29,7 +29,7 @@ int shiftNumber(Qt::KeyboardModifiers keys) {
 Form::Form(const FormDesign& design) : area_(new DrawingArea(this)) {
   speakOfForms();
   setObjectName(design.name);
-  setWindowTitle(design.caption);
+  Caption(design.caption);
   setCentralWidget(area_);
   setMenuBar(new MenuBar(this));
 
@@ -59,6 +59,16 @@ RasterCanvas& Form::canvas() noexcept { return area_->canvas(); }
 const RasterCanvas& Form::canvas() const noexcept { return area_->canvas(); }
 QWidget* Form::drawingArea() const noexcept { return area_; }
 const QImage& Form::image() { return area_->image(); }
+
+void Form::Caption(const QString& caption) {
+  caption_ = caption;
+  setWindowTitle(caption_ + titleNote_);
+}
+
+void Form::titleNote(const QString& words) {
+  titleNote_ = words;
+  Caption(caption_);
+}
 
 void Form::addMenuEntry(QAction* entry) {
   menuBar()->addAction(entry);

@@ -72,8 +72,10 @@ class Form : public QMainWindow {
   // Maximised on the primary screen when it is shown.
   void fillDisplay();
 
-  QString Caption() const { return windowTitle(); }
-  void Caption(const QString& caption) { setWindowTitle(caption); }
+  QString Caption() const { return caption_; }
+  void Caption(const QString& caption);
+  // Words that stand behind the caption in the title of the window, until {} takes them away.
+  void titleNote(const QString& words);
   // The picture always lasts; the property is kept because screens set it.
   bool AutoRedraw() const noexcept { return autoRedraw_; }
   void AutoRedraw(bool on) noexcept { autoRedraw_ = on; }
@@ -133,6 +135,8 @@ class Form : public QMainWindow {
   void fillWithoutManager();
 
   DrawingArea* area_;
+  QString caption_;
+  QString titleNote_;
   std::optional<QSize> client_;    // the client area asked for, until the form is shown
   std::optional<QSize> outer_;     // the size with frame last written
   std::optional<QPoint> written_;  // the place of the frame last written

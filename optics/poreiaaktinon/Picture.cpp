@@ -39,6 +39,14 @@ Shown fittedTo(const light::Edges& edges, const Shown& shown) {
   return fitted;
 }
 
+Shown untraced(Shown shown) {
+  for (Layer& layer : shown.layers) {
+    if (auto* light = std::get_if<Light>(&layer)) light->sent.paths.reset();
+    if (auto* fronts = std::get_if<Fronts>(&layer)) fronts->sent.paths.reset();
+  }
+  return shown;
+}
+
 void draw(Canvas& canvas, const Shown& shown) {
   canvas.Cls();
   drawAdded(canvas, {}, shown.layers);

@@ -67,7 +67,7 @@ Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges) {
 }
 
 Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges) {
-  if (sent.bench == bench && sent.edges == edges) return sent;
+  if (sent.paths && sent.bench == bench && sent.edges == edges) return sent;
   return send(bench, sent.rays, edges);
 }
 

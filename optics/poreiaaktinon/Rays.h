@@ -46,6 +46,7 @@ using Rays = std::variant<Fan, Desmi, SingleRay>;
 
 // Rays that were sent, with the paths that they took: traced once, shared by whoever draws, moves
 // or asks them. Two are equal when they were sent alike, through the same bench, to the same edges.
+// A value that is only kept may be without its paths, which resent traces again.
 struct Sent {
   Bench bench;
   Rays rays;

@@ -109,6 +109,13 @@ Shown fittedTo(const light::Edges& edges, const Shown& shown) {
   return fitted;
 }
 
+Shown untraced(Shown shown) {
+  for (Layer& layer : shown.layers) {
+    if (auto* ray = std::get_if<Ray>(&layer)) ray->sent.paths.reset();
+  }
+  return shown;
+}
+
 void draw(Canvas& canvas, const Shown& shown) {
   canvas.Cls();
   drawAdded(canvas, {}, shown.layers);

@@ -75,6 +75,8 @@ struct Shown {
 Point aimedDirection(float xs, float ys, float xa, float ya);
 
 Shown fittedTo(const light::Edges& edges, const Shown& shown);
+// The same picture to be kept, without the traced path; fittedTo traces it again.
+Shown untraced(Shown shown);
 void draw(Canvas& canvas, const Shown& shown);
 void redraw(Canvas& canvas, const Shown& from, const Shown& to);
 

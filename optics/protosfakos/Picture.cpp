@@ -88,6 +88,27 @@ void add(Shown& shown, Layer layer) {
   shown.layers.push_back(std::move(layer));
 }
 
+Scene& sceneIn(Layer& layer) {
+  if (auto* again = std::get_if<FrontsAgain>(&layer)) return again->scene;
+  return std::get<Scene>(layer);
+}
+
+Shown untraced(Shown shown) {
+  for (Layer& layer : shown.layers) sceneIn(layer).traced.reset();
+  return shown;
+}
+
+Shown traced(Shown shown) {
+  const Scene* before = nullptr;
+  for (Layer& layer : shown.layers) {
+    Scene& scene = sceneIn(layer);
+    // Fronts again are those of the scene below them.
+    if (!scene.traced) scene = before && *before == scene ? *before : sceneOf(scene.asked);
+    before = &scene;
+  }
+  return shown;
+}
+
 void drawOver(Canvas& canvas, const Scene& scene) {
   const auto& [asked, traced] = scene;
   drawOutline(canvas, traced->a, traced->b, asked.amfikyrtos);

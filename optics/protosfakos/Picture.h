@@ -22,6 +22,9 @@ struct FrontsAgain {
 
 using Layer = std::variant<Scene, FrontsAgain>;
 
+// The scene that a layer shows, or whose fronts it shows.
+Scene& sceneIn(Layer& layer);
+
 struct Shown {
   std::vector<Layer> layers;  // empty after Cls
 
@@ -29,6 +32,10 @@ struct Shown {
 };
 // Adds a layer on top. An equal one below, whose pixels this one repeats, is taken out.
 void add(Shown& shown, Layer layer);
+
+// The same picture to be kept, without the traced rays; traced puts them in again.
+Shown untraced(Shown shown);
+Shown traced(Shown shown);
 
 // Draws a scene over what is there: outline, ideal bundle, marks, each ray in turn, fronts.
 // Leaves DrawWidth at 1.

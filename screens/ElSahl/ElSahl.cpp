@@ -70,10 +70,11 @@ void ElSahl::connectHandlers() {
   on<Form>(actions, *this, &Form::MouseMove, *this, &ElSahl::Form_MouseMove);
   on<Form>(actions, *this, &Form::MouseUp, *this, &ElSahl::Form_MouseUp);
   on<Form>(actions, *this, &Form::DragEnded, *this, &ElSahl::dragEnded);
-  on<Form>(actions, *this, &Form::Resized, *this, &ElSahl::resized);
+  on<Form>(actions, *this, &Form::Resized, *this, &ElSahl::resized, By::Itself);
   on<Form>(actions, *this, &Form::CloseBox, *this, &ElSahl::BACKKELMO_Click);
   on(actions, c.kymataYESNO, &OptionButton::Click, *this, &ElSahl::kymataYESNO_Click);
   on(actions, c.RAYSANDWAVES, &OptionButton::Click, *this, &ElSahl::RAYSANDWAVES_Click);
+  on(actions, c.onlyrays, &OptionButton::Click, *this, &ElSahl::onlyrays_Click);
   on(actions, c.kymatikosahl, &MenuEntry::Click, *this, &ElSahl::kymatikosahl_Click);
   on(actions, c.parallilidesmifotos, &MenuEntry::Click, *this, &ElSahl::parallilidesmifotos_Click);
   on(actions, c.BACKKELMO, &MenuEntry::Click, *this, &ElSahl::BACKKELMO_Click);
@@ -171,15 +172,19 @@ void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   syromenigrammi1 = false;
   syromenigrammi2 = false;
   hintUsed();
-  if (hasLens()) drawFan();
+  if (hasLens() && !followValues()) drawFan();
 }
 
 void ElSahl::dragTo(Point p) {
   placeEdges(released(syromenigrammi1 ? Edge::Upper : Edge::Lower, p, atPress_, reach()));
+  followValues();
 }
 
 void ElSahl::dragEnded() {
-  if (dragging()) placeEdges(atPress_);
+  if (dragging()) {
+    placeEdges(atPress_);
+    followValues();
+  }
   syromenigrammi1 = false;
   syromenigrammi2 = false;
 }
@@ -197,12 +202,16 @@ void ElSahl::kymataYESNO_Click() {
   context_.shared.onlyWavesAsked = true;
   controls_.kymataYESNO.Value(true);
   controls_.RAYSANDWAVES.Value(false);
+  followValues();
 }
 
 void ElSahl::RAYSANDWAVES_Click() {
   controls_.kymataYESNO.Value(false);
   controls_.RAYSANDWAVES.Value(true);
+  followValues();
 }
+
+void ElSahl::onlyrays_Click() { followValues(); }
 
 void ElSahl::kymatikosahl_Click() {
   if (!hasLensOr(sceneRefused)) return;

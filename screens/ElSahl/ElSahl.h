@@ -7,6 +7,7 @@
 #include "screens/Easel.h"
 #include "screens/ElSahl/Edges.h"
 #include "screens/ElSahl/SahlControls.h"
+#include "screens/ElSahl/SahlState.h"
 
 namespace lensbench {
 
@@ -31,6 +32,15 @@ class ElSahl : public Form {
   // The fan of the shared source, as it would be drawn now.
   protosfakos::Asked askedFan() const;
 
+  // The screen as a value, and as it was: quietly, without a handler, a message or an error.
+  SahlState state() const;
+  void restore(const SahlState& state);
+  // What stands on the picture once more, with the shared lens and source, and with the diaphragm
+  // and the options as they are.
+  void repeat();
+  // The same while following; false where nothing follows.
+  bool followValues();
+
   // Handlers, named after control and event.
   void Form_Load();
   void Form_MouseDown(int Button, int Shift, double X, double Y);
@@ -38,6 +48,7 @@ class ElSahl : public Form {
   void Form_MouseUp(int Button, int Shift, double X, double Y);
   void kymataYESNO_Click();
   void RAYSANDWAVES_Click();
+  void onlyrays_Click();
   void kymatikosahl_Click();
   void parallilidesmifotos_Click();
   void BACKKELMO_Click();

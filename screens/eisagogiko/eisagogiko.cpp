@@ -1,5 +1,7 @@
 #include "screens/eisagogiko/eisagogiko.h"
 
+#include <QSignalBlocker>
+
 #include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
 #include "optics/protosfakos/Hyperbola.h"
@@ -44,11 +46,22 @@ void eisagogiko::Form_Load() {
   controls_.Label1.Caption(labelled(captionAtLoad, formatHundredths(index())));
 }
 
+MenuState eisagogiko::state() const {
+  return {controls_.deiktissahl.Value(), controls_.Label1.Caption()};
+}
+
+void eisagogiko::restore(const MenuState& state) {
+  const QSignalBlocker quiet(controls_.deiktissahl);
+  controls_.deiktissahl.Value(state.deiktissahl);
+  controls_.Label1.Caption(state.caption);
+}
+
 double eisagogiko::index() const { return controls_.deiktissahl.Value() / 100.0; }
 
 void eisagogiko::deiktissahl_Change() {
   controls_.Label1.Caption(labelled(captionAtChange, formatHundredths(index())));
   context_.shared.deiktisSahl = index();
+  if (context_.shared.follow) context_.moves.followIndex();
 }
 
 void eisagogiko::Command1_Click() {

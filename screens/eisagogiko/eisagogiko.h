@@ -4,6 +4,7 @@
 #include "canvas/qt/Form.h"
 #include "screens/Context.h"
 #include "screens/eisagogiko/MenuControls.h"
+#include "screens/eisagogiko/MenuState.h"
 
 namespace lensbench {
 
@@ -12,6 +13,10 @@ class eisagogiko : public Form {
   explicit eisagogiko(const Context& context);
 
   MenuControls& controls() { return controls_; }
+
+  // The screen as a value, and as it was, without a handler that runs.
+  MenuState state() const;
+  void restore(const MenuState& state);
 
   // Handlers, named after control and event.
   void Form_Load();

@@ -40,15 +40,15 @@ kelmo::kelmo(const Context& context)
 
 void kelmo::connectHandlers() {
   KelmoControls& c = controls_;
-  const auto on = [this](auto& sender, auto signal, auto handler) {
-    lensbench::on(context_.actions, sender, signal, *this, handler);
+  const auto on = [this](auto& sender, auto signal, auto handler, By by = By::Hand) {
+    lensbench::on(context_.actions, sender, signal, *this, handler, by);
   };
   Form& form = *this;
   on(form, &Form::MouseDown, &kelmo::Form_MouseDown);
   on(form, &Form::MouseMove, &kelmo::Form_MouseMove);
   on(form, &Form::MouseUp, &kelmo::Form_MouseUp);
   on(form, &Form::DragEnded, &kelmo::dropDrag);
-  on(form, &Form::Resized, &kelmo::resized);
+  on(form, &Form::Resized, &kelmo::resized, By::Itself);
   on(form, &Form::CloseBox, &kelmo::TELIOMA_Click);
   on(c.aktina1, &ScrollBar::Change, &kelmo::aktina1_Change);
   on(c.aktina2, &ScrollBar::Change, &kelmo::aktina2_Change);
@@ -68,8 +68,8 @@ void kelmo::connectHandlers() {
   on(c.parallilakymata, &MenuEntry::Click, &kelmo::parallilakymata_Click);
   on(c.kymatachronika, &MenuEntry::Click, &kelmo::kymatachronika_Click);
   on(c.TELIOMA, &MenuEntry::Click, &kelmo::TELIOMA_Click);
-  on(c.Timer1, &Timer::Tick, &kelmo::Timer1_Timer);
-  on(c.Timer2, &Timer::Tick, &kelmo::Timer2_Timer);
+  on(c.Timer1, &Timer::Tick, &kelmo::Timer1_Timer, By::Itself);
+  on(c.Timer2, &Timer::Tick, &kelmo::Timer2_Timer, By::Itself);
 }
 
 void kelmo::Form_Load() {
@@ -133,6 +133,7 @@ void kelmo::add(Layer layer) {
 }
 
 void kelmo::clear() {
+  if (poreiaaktinon::showsMoreThanLens(shown())) wiped_ = standing();
   set_.reset();
   easel_.show({});
 }
@@ -142,11 +143,19 @@ void kelmo::clearAndDraw() {
   arxinizo();
 }
 
-void kelmo::drawAnew() {
+void kelmo::wipe() {
   if (running()) {
     showFronts();
   } else {
     clearAndDraw();
+  }
+}
+
+void kelmo::drawAnew() {
+  if (following()) {
+    followValues();
+  } else {
+    wipe();
   }
 }
 
@@ -171,26 +180,31 @@ void kelmo::kentrokykloy2_Change() { drawAnew(); }
 void kelmo::deiktisdiathlasis_Change() {
   controls_.Text2.FontName(timesGreek);
   controls_.Text2.Text(labelled(indexCaption, formatHundredths(n())));
+  followValues();
 }
 
 void kelmo::arvimaton_Change() {
   controls_.Label3.Caption(labelled(multiplierCaption, formatWhole(controls_.arvimaton.Value())));
+  followValues();
 }
 
 void kelmo::desmi1_Change() {
   controls_.Text1.FontName(timesGreek);
   controls_.Text1.Text(labelled(rayCount, formatHundredths(poreiaaktinon::rayCount(vima()))));
+  followValues();
 }
 
 void kelmo::Check1_Click() {
   controls_.Check2.Value(false);
   controls_.desmi1.Value(140);
+  followValues();
 }
 
 void kelmo::Check2_Click() {
-  clearAndDraw();
+  if (!following()) clearAndDraw();
   controls_.Check1.Value(false);
   controls_.desmi1.Value(100);
+  followValues();
 }
 
 void kelmo::flipCheck1() { controls_.Check1.Value(!controls_.Check1.Value()); }

@@ -10,6 +10,7 @@
 #include "screens/Easel.h"
 #include "screens/kelmo/Drag.h"
 #include "screens/kelmo/KelmoControls.h"
+#include "screens/kelmo/KelmoState.h"
 
 namespace lensbench {
 
@@ -54,6 +55,14 @@ class kelmo : public Form {
   // Ends the program.
   void end();
 
+  // The screen as a value, and as it was: quietly, without a handler, a message or an error, fitted
+  // to the window as it is now.
+  KelmoState state() const;
+  void restore(const KelmoState& state);
+  // What stands on the picture, or stood there before it was wiped, once more with the values of
+  // the controls.
+  void repeat();
+
   // Handlers, named after control and event.
   void Form_Load();
   void Form_Click();
@@ -88,12 +97,20 @@ class kelmo : public Form {
   void resized();
   light::Edges edges() const { return light::edgesOf(canvas()); }
 
+  poreiaaktinon::Standing standing() const { return {shown(), set_}; }
+  void showStanding(poreiaaktinon::Standing standing);
+  poreiaaktinon::Values values() const;
+  bool following() const;
+  // While following, what stands on the picture is repeated, in a run too.
+  void followValues();
+
   // Empties the picture and drops the set.
   void clear();
   void add(poreiaaktinon::Layer layer);
   void clearAndDraw();
-  // After a change of the lens or the diaphragm: the lens scene, or in a run the waves for the new
-  // values.
+  // Leaves the lens scene alone, or in a run the waves for the present values.
+  void wipe();
+  // After a change of the lens or the diaphragm: the same, or, while following, what stands there.
   void drawAnew();
 
   void placeSource(Point source);
@@ -146,6 +163,7 @@ class kelmo : public Form {
   KelmoControls controls_;
   Easel<poreiaaktinon::Shown> easel_;
   std::optional<poreiaaktinon::Sent> set_;
+  std::optional<poreiaaktinon::Standing> wiped_;  // what was cleared last, more than a lens alone
   Drag drag_;
   int ticks_ = 0;  // tick counter, the time index of the waves
 };

@@ -55,7 +55,7 @@ void moniaktina::connectHandlers() {
   on<Form>(actions, *this, &Form::MouseMove, *this, &moniaktina::Form_MouseMove);
   on<Form>(actions, *this, &Form::MouseUp, *this, &moniaktina::Form_MouseUp);
   on<Form>(actions, *this, &Form::DragEnded, *this, &moniaktina::dragEnded);
-  on<Form>(actions, *this, &Form::Resized, *this, &moniaktina::resized);
+  on<Form>(actions, *this, &Form::Resized, *this, &moniaktina::resized, By::Itself);
   on<Form>(actions, *this, &Form::CloseBox, *this, &moniaktina::Command1_Click);
   on(actions, c.aktina1, &ScrollBar::Change, *this, &moniaktina::aktina1_Change);
   on(actions, c.aktina2, &ScrollBar::Change, *this, &moniaktina::aktina2_Change);
@@ -157,6 +157,7 @@ void moniaktina::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double 
 void moniaktina::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
   controls_.aim.Visible(false);
+  aimed_ = Point{X, Y};
   sendRay({X, Y});
   // Once a ray has passed, the hint would only cover the picture.
   if (!stopped(easel_.shown())) drawingArea()->setToolTip({});
@@ -167,6 +168,7 @@ void moniaktina::lensChanged() {
   aktinaR2 = controls_.aktina2.Value();
   kentro1 = 0;
   kentro2 = controls_.kentrokykloy.Value();
+  if (followValues()) return;
   sxediasifakoy(aktinaR1, aktinaR2, kentro1, kentro2);
 }
 
@@ -189,6 +191,7 @@ void moniaktina::deiktisdiathlasis_Change() {
   deiktis = controls_.deiktisdiathlasis.Value() / 100.0;
   // Kept on purpose: not the spelling of Form_Load, but no capital and no blank before the sign.
   controls_.Text2.Text(labelled("Index of refraction n= ", formatHundredths(deiktis)));
+  followValues();
 }
 
 void moniaktina::Command1_Click() { context_.moves.leaveSingleRay(); }

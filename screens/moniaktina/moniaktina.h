@@ -8,6 +8,7 @@
 #include "screens/Context.h"
 #include "screens/Easel.h"
 #include "screens/moniaktina/MoniaktinaControls.h"
+#include "screens/moniaktina/MoniaktinaState.h"
 
 namespace lensbench {
 
@@ -31,6 +32,14 @@ class moniaktina : public Form {
   // miaaktina (one ray): draws the lens of the scroll bars and the ray from the source, whose
   // centre (xs, ys) is, towards (xa, ya); user units.
   void miaaktina(float xs, float ys, float xa, float ya);
+
+  // The screen as a value, and as it was: quietly, without a handler, a message or an error, fitted
+  // to the window as it is now.
+  MoniaktinaState state() const;
+  void restore(const MoniaktinaState& state);
+  // The ray that stands on the picture, or the last one that was sent by hand, once more with the
+  // values of the controls.
+  void repeat();
 
   // Handlers, named after control and event.
   void Form_Load();
@@ -58,10 +67,15 @@ class moniaktina : public Form {
   void push(poreiaaktinon::single::Layer layer);
   // Clears and draws the ray from the source towards a point, with the line of its aim.
   void sendRay(Point aim);
+  // The same, unless there is no aim or it is straight above or below the source; false then.
+  bool sendAgain(const std::optional<Point>& aim);
+  // While following, the ray that stands on the picture is sent again; false where none is.
+  bool followValues();
 
   Context context_;
   MoniaktinaControls controls_;
   Easel<poreiaaktinon::single::Shown> easel_{*this};
+  std::optional<Point> aimed_;  // where the last ray was sent by hand
 };
 
 }  // namespace lensbench

@@ -24,6 +24,8 @@ class FakeMoves : public Moves {
   void undo() override { made.emplace_back("undo"); }
   void redo() override { made.emplace_back("redo"); }
   void help() override { made.emplace_back("help"); }
+  void toggleFollow() override { made.emplace_back("toggleFollow"); }
+  void followIndex() override { made.emplace_back("followIndex"); }
   light::Diafragma diafragma() override { return opening; }
 };
 

@@ -1,0 +1,92 @@
+#include "app/Steps.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "app/Screens.h"
+
+namespace lensbench {
+
+Steps::Steps(Screens& screens, Actions& actions) : screens_(screens), actions_(actions) {
+  actions_.watchBy({[this](By by) { began(by); }, [this](By by) { ended(by); }});
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+Steps::~Steps() { actions_.watchBy({}); }
+
+bool Steps::eventFilter(QObject* /*watched*/, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+      const auto* press = static_cast<QMouseEvent*>(event);
+      if (press->buttons() == Qt::MouseButtons(press->button())) hold();
+      break;
+    }
+    case QEvent::MouseButtonRelease:
+      if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) letGo();
+      break;
+    case QEvent::KeyPress:
+      if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) hold();
+      break;
+    case QEvent::KeyRelease:
+      if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) letGo();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+void Steps::hold() {
+  // In a box that an action has opened.
+  if (actions_.running()) return;
+  end();
+  held_ = true;
+}
+
+void Steps::letGo() {
+  held_ = false;
+  // Once the release has done what it does.
+  QMetaObject::invokeMethod(
+      this, [this] { ended(By::Hand); }, Qt::QueuedConnection);
+}
+
+void Steps::began(By by) {
+  if (by == By::Hand) {
+    if (!history_) history_.emplace(screens_.state());
+  } else {
+    unended_ = history_ && history_->present() != screens_.state();
+  }
+}
+
+void Steps::ended(By by) {
+  if (by == By::Hand) {
+    if (!held_ && !actions_.running()) end();
+  } else if (history_ && !unended_) {
+    history_->amend(screens_.state());
+  }
+}
+
+void Steps::end() {
+  ProgramState now = screens_.state();
+  if (!history_) {
+    history_.emplace(std::move(now));
+  } else if (now != history_->present()) {
+    history_->push(std::move(now));
+  }
+}
+
+void Steps::undo() { go(&History<ProgramState>::back); }
+
+void Steps::redo() { go(&History<ProgramState>::forth); }
+
+void Steps::go(bool (History<ProgramState>::*step)()) {
+  end();
+  if (!((*history_).*step)()) return;
+  screens_.restore(history_->present());
+  // Fitted to windows of another size, it is the same step.
+  history_->amend(screens_.state());
+}
+
+}  // namespace lensbench
