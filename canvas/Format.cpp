@@ -67,6 +67,17 @@ std::string formatWhole(const Variant& v) { return rounded(v.value(), 0); }
 
 std::string formatHundredths(const Variant& v) { return rounded(v.value(), 2); }
 
+std::string formatDecimals(const Variant& v, int decimals) {
+  return rounded(v.value(), static_cast<std::size_t>(std::max(decimals, 0)));
+}
+
+std::string formatShort(const Variant& v) {
+  std::string digits = formatHundredths(v);
+  digits.resize(digits.find_last_not_of('0') + 1);
+  if (digits.back() == '.') digits.pop_back();
+  return digits;
+}
+
 std::optional<double> numberFromText(std::string_view text) {
   std::string digits(text);
   std::replace(digits.begin(), digits.end(), ',', '.');

@@ -16,6 +16,12 @@ std::string formatWhole(const Variant& v);
 // point whatever the locale.
 std::string formatHundredths(const Variant& v);
 
+// The same with so many decimals.
+std::string formatDecimals(const Variant& v, int decimals);
+
+// "0.##": two decimals at most, none that is a last 0.
+std::string formatShort(const Variant& v);
+
 // A text as a number, with a point or a comma; nothing when it is none, as the empty text is. Too
 // large is Overflow (6).
 std::optional<double> numberFromText(std::string_view text);

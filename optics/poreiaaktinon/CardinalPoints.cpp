@@ -6,7 +6,6 @@
 namespace lensbench::poreiaaktinon {
 namespace {
 
-constexpr double planeHalfHeight = 200.0;
 constexpr double raysEnd = 500.0;  // how far out on the axis the constructed rays end
 
 double thickness(const Fakos& fakos) { return (fakos.R1 + fakos.xc1) - (fakos.xc2 - fakos.R2); }
@@ -20,6 +19,17 @@ Variant power(const Fakos& fakos, const Variant& n) {
   return P - Q / (R2 * R1);
 }
 
+// The principal points placed with a radius each.
+CardinalPoints placed(const Fakos& fakos, double n, double radius1, double radius2) {
+  const double d = thickness(fakos);
+  const Variant f = 1 / power(fakos, n);
+  const double left = fakos.xc2 - fakos.R2;
+  const double right = fakos.R1 + fakos.xc1;
+  const double H1 = (left + d * f * (n - 1) / (n * Variant(radius1))).value();
+  const double H2 = (right - d * f * (n - 1) / (n * Variant(radius2))).value();
+  return {d, f.value(), H1, H2, H1, H2, (H1 - f).value(), (H2 + f).value()};
+}
+
 // The points in the order in which light meets them.
 CardinalPoints inOrder(const CardinalPoints& p, Travel travel) {
   if (travel == Travel::Right) return p;
@@ -29,13 +39,11 @@ CardinalPoints inOrder(const CardinalPoints& p, Travel travel) {
 }  // namespace
 
 CardinalPoints cardinalPoints(const Fakos& fakos, double n) {
-  const double d = thickness(fakos);
-  const Variant f = 1 / power(fakos, n);
-  const double left = fakos.xc2 - fakos.R2;
-  const double right = fakos.R1 + fakos.xc1;
-  const double H1 = (left + d * f * (n - 1) / (n * Variant(fakos.R2))).value();
-  const double H2 = (right - d * f * (n - 1) / (n * Variant(fakos.R1))).value();
-  return {d, f.value(), H1, H2, H1, H2, (H1 - f).value(), (H2 + f).value()};
+  return placed(fakos, n, fakos.R2, fakos.R1);
+}
+
+CardinalPoints paraxialPoints(const Fakos& fakos, double n) {
+  return placed(fakos, n, fakos.R1, fakos.R2);
 }
 
 bool hasCardinalPoints(const Fakos& fakos, double n) {

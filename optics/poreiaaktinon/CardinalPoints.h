@@ -24,6 +24,10 @@ struct CardinalPoints {
 // students meet the formulas in books; exact optics takes that of the other.
 CardinalPoints cardinalPoints(const Fakos& fakos, double n);
 
+// The same with each principal point where paraxial rays have it; the two differ where the radii
+// do.
+CardinalPoints paraxialPoints(const Fakos& fakos, double n);
+
 // False without a lens, at n = 1, and where 1/f is 0: then there is nothing to mark.
 bool hasCardinalPoints(const Fakos& fakos, double n);
 
@@ -40,6 +44,8 @@ bool canConstruct(const CardinalPoints& points, Point source, Travel travel);
 // the source. Division by zero (11) where canConstruct is false.
 Point imageOf(const CardinalPoints& points, Point source, Travel travel);
 
+// How far the principal planes are drawn above and below the axis, user units.
+inline constexpr double planeHalfHeight = 200.0;
 // The principal planes, dotted, and the focal and nodal points as dots.
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points);
 // The rays from the source through F1, parallel to the axis, and through the nodal points, and the

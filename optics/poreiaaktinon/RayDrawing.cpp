@@ -15,8 +15,6 @@ using light::Medium;
 using light::Piece;
 using light::RayPath;
 
-constexpr double waveStep = 10.0;  // of optical path, user units
-
 Rgb waveColour(const RayPath& path, const Piece& piece) {
   if (piece.medium == Medium::Glass) return palette::waveInGlass;
   return &piece == &path.pieces[0] ? palette::waveBeforeLens : palette::waveBehindLens;

@@ -13,6 +13,8 @@ namespace lensbench::poreiaaktinon {
 void drawPath(Canvas& canvas, const light::RayPath& path);
 void drawPath(Canvas& canvas, const light::RayPath& path, Rgb air, Rgb glass);
 
+// Optical path from one wave point of a ray to the next, user units.
+inline constexpr double waveStep = 10.0;
 // Dots of width 2 at the whole tens of the optical path, in a colour for each stretch of the way;
 // only those that the drawing area shows.
 void drawWavePoints(Canvas& canvas, const light::RayPath& path);

@@ -12,21 +12,6 @@
 namespace lensbench::poreiaaktinon {
 namespace {
 
-// What both scenes draw of a lens.
-struct Glass {
-  Fakos fakos;
-  bool exists = false;  // the circles cross and no radius is 0: there is a lens body
-  double xordi = 0.0;   // abscissa of the common chord
-  double h = 0.0;       // half-height of the lens, from the axis to the rim
-  Variant f;            // lensmaker focal length; Empty without a lens or where it is infinite
-};
-
-Glass glassOf(const Fakos& fakos, double n) {
-  if (!hasLens(fakos)) return {fakos, false, 0.0, 0.0, {}};
-  const SimeiaTomis rim = tomikyklonaxona(fakos.xc1, fakos.xc2, fakos.R1, fakos.R2);
-  return {fakos, true, rim.x1, rim.y1, estiakiapostasi(fakos.R1, fakos.R2, n)};
-}
-
 void drawFaces(Canvas& canvas, const Fakos& fakos) {
   drawRightFace(canvas, fakos, palette::face);
   drawLeftFace(canvas, fakos, palette::face);
@@ -93,6 +78,12 @@ void fillBody(Canvas& canvas, const Glass& glass) {
 }
 
 }  // namespace
+
+Glass glassOf(const Fakos& fakos, double n) {
+  if (!hasLens(fakos)) return {fakos, false, 0.0, 0.0, {}};
+  const SimeiaTomis rim = tomikyklonaxona(fakos.xc1, fakos.xc2, fakos.R1, fakos.R2);
+  return {fakos, true, rim.x1, rim.y1, estiakiapostasi(fakos.R1, fakos.R2, n)};
+}
 
 void drawLensScene(Canvas& canvas, const LensScene& scene) {
   const Glass glass = glassOf(scene.fakos, scene.n);

@@ -3,9 +3,20 @@
 #pragma once
 
 #include "canvas/Canvas.h"
+#include "canvas/Variant.h"
 #include "optics/poreiaaktinon/Picture.h"
 
 namespace lensbench::poreiaaktinon {
+
+// What both scenes draw of a lens, user units.
+struct Glass {
+  Fakos fakos;
+  bool exists = false;  // the circles cross and no radius is 0: there is a lens body
+  double xordi = 0.0;   // abscissa of the common chord
+  double h = 0.0;       // half-height of the lens, from the axis to the rim
+  Variant f;            // lensmaker focal length; Empty without a lens or where it is infinite
+};
+Glass glassOf(const Fakos& fakos, double n);
 
 // Neither clears anything; both leave DrawWidth at 1, a solid pen and no fill.
 //

@@ -75,12 +75,15 @@ void drawFronts(Canvas& canvas, std::span<const Recorded> rays, std::optional<Rg
 // Found by the layers that they draw.
 void drawLayer(Canvas& canvas, const Scene& scene) { drawOver(canvas, scene); }
 
-void drawLayer(Canvas& canvas, const FrontsAgain& again) {
+void drawLayer(Canvas& canvas, const FrontsAgain& again) { drawFronts(canvas, raysOf(again), {}); }
+
+std::vector<Recorded> raysOf(const FrontsAgain& again) {
   const auto& [asked, traced] = again.scene;
-  if (!again.desmiMode) return drawFronts(canvas, traced->recorded, {});
   std::vector<Recorded> rays = traced->recorded;
-  for (std::size_t k = 1; k < rays.size(); ++k) layFronts(rays[k], {}, asked.deiktisSahl);
-  drawFronts(canvas, rays, {});
+  if (again.desmiMode) {
+    for (std::size_t k = 1; k < rays.size(); ++k) layFronts(rays[k], {}, asked.deiktisSahl);
+  }
+  return rays;
 }
 
 void add(Shown& shown, Layer layer) {

@@ -20,6 +20,9 @@ struct FrontsAgain {
   friend bool operator==(const FrontsAgain&, const FrontsAgain&) = default;
 };
 
+// The rays whose wave points it joins.
+std::vector<Recorded> raysOf(const FrontsAgain& again);
+
 using Layer = std::variant<Scene, FrontsAgain>;
 
 // The scene that a layer shows, or whose fronts it shows.

@@ -8,8 +8,6 @@
 namespace lensbench::protosfakos {
 namespace {
 
-// Optical path from one front to the next, which is their distance in air, user units.
-constexpr double frontSpacing = 4.0;
 constexpr int lastRay = 600;
 
 light::Piece pieceBetween(Point from, Point to, light::Medium medium) {

@@ -11,6 +11,8 @@ namespace lensbench::protosfakos {
 
 // Fronts 1..30 are drawn; 0 is where a ray starts.
 constexpr int lastFront = 30;
+// Optical path from one front to the next, which is their distance in air, user units.
+constexpr double frontSpacing = 4.0;
 
 // What is kept of a ray that leaves the lens, and its wave points, user units.
 struct Recorded {

@@ -28,6 +28,24 @@ TEST(Format, HundredthsAlwaysShowTwoDecimalsAndAPoint) {
   EXPECT_EQ(formatHundredths(Variant()), "0.00");
 }
 
+TEST(Format, ShortNumbersDropLastZeros) {
+  EXPECT_EQ(formatShort(12), "12");
+  EXPECT_EQ(formatShort(100), "100");
+  EXPECT_EQ(formatShort(2.5), "2.5");
+  EXPECT_EQ(formatShort(-2.345), "-2.35");
+  EXPECT_EQ(formatShort(-0.004), "0");
+  EXPECT_EQ(formatShort(0.999), "1");
+  EXPECT_EQ(formatShort(Variant()), "0");
+}
+
+TEST(Format, DecimalsAreCountedFromThePoint) {
+  EXPECT_EQ(formatDecimals(48.25, 1), "48.3");
+  EXPECT_EQ(formatDecimals(-0.00005, 4), "-0.0001");
+  EXPECT_EQ(formatDecimals(7, 3), "7.000");
+  EXPECT_EQ(formatDecimals(6.5, 0), "7");
+  EXPECT_EQ(formatDecimals(6.5, -1), "7");
+}
+
 TEST(NumberFromText, ReadsAPointOrAComma) {
   EXPECT_EQ(numberFromText("45"), 45.0);
   EXPECT_EQ(numberFromText("-90"), -90.0);
