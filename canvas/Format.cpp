@@ -73,8 +73,7 @@ std::string formatDecimals(const Variant& v, int decimals) {
 
 std::string formatShort(const Variant& v) {
   std::string digits = formatHundredths(v);
-  digits.resize(digits.find_last_not_of('0') + 1);
-  if (digits.back() == '.') digits.pop_back();
+  if (digits.ends_with(".00")) digits.resize(digits.size() - 3);
   return digits;
 }
 

@@ -19,7 +19,7 @@ std::string formatHundredths(const Variant& v);
 // The same with so many decimals.
 std::string formatDecimals(const Variant& v, int decimals);
 
-// "0.##": two decimals at most, none that is a last 0.
+// A whole number as such, and others with two decimals.
 std::string formatShort(const Variant& v);
 
 // A text as a number, with a point or a comma; nothing when it is none, as the empty text is. Too

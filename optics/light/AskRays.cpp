@@ -115,7 +115,7 @@ std::string rayWords(std::span<const RayPath> paths, std::size_t ray, std::size_
   std::string greek = "ακτίνα";
   std::string english = "ray";
   if (paths.size() > 1) {
-    const std::string number = " " + std::to_string(ray + 1);
+    const std::string number = std::string(" ") + std::to_string(ray + 1);
     const std::string count = std::to_string(paths.size());
     greek += number + " από " + count;
     english += number + " of " + count;
@@ -173,6 +173,8 @@ std::string frontWords(double opticalPath, Phrase origin) {
          "\nwave front: optical path " + path + " from " + origin.english;
 }
 
-std::string coordinates(Point p) { return "(" + formatShort(p.x) + ", " + formatShort(p.y) + ")"; }
+std::string coordinates(Point p) {
+  return std::string("(") + formatShort(p.x) + ", " + formatShort(p.y) + ")";
+}
 
 }  // namespace lensbench::light

@@ -29,7 +29,7 @@ void offerStops(Nearest& nearest, std::span<const RayPath> paths, const Diafragm
 // What a wave front answers. origin: what its optical path is counted from.
 std::string frontWords(double opticalPath, Phrase origin);
 
-// "(12.5, -3)", each number with two decimals at most.
+// "(12.50, -3)": whole numbers as such, others with two decimals.
 std::string coordinates(Point p);
 
 }  // namespace lensbench::light

@@ -23,8 +23,8 @@ using light::Phrase;
 using light::Rank;
 
 // "at (x, y)" in either language.
-std::string inGreek(Point p) { return " στο " + coordinates(p); }
-std::string inEnglish(Point p) { return " at " + coordinates(p); }
+std::string inGreek(Point p) { return std::string(" στο ") + coordinates(p); }
+std::string inEnglish(Point p) { return std::string(" at ") + coordinates(p); }
 
 // Both stand on the chord where f is Empty.
 void offerThinFoci(Nearest& nearest, double chord, const Variant& f) {
@@ -32,7 +32,7 @@ void offerThinFoci(Nearest& nearest, double chord, const Variant& f) {
     const Point at{chord + side * f.value(), 0.0};
     nearest.point(Rank::Mark, at, [=] {
       const bool right = f < 0 ? side < 0.0 : side > 0.0;
-      const std::string length = ": f = " + (f.isEmpty() ? std::string("∞") : formatShort(f)) + ",";
+      const std::string length = std::string(": f = ") + (f.isEmpty() ? "∞" : formatShort(f)) + ",";
       return (right ? "δεξιά" : "αριστερή") + (" εστία του λεπτού φακού" + length) + inGreek(at) +
              "\n" + (right ? "right" : "left") + (" focus of the thin lens" + length) +
              inEnglish(at);
@@ -81,7 +81,7 @@ std::string cardinalWords(const char* label, const Phrase& kind, const Phrase& m
                           double marked, double paraxial) {
   const Point at{marked, 0.0};
   const Point exact{paraxial, 0.0};
-  const std::string size = ", f = " + formatShort(f) + ",";
+  const std::string size = std::string(", f = ") + formatShort(f) + ",";
   std::string greek = std::string(label) + ": " + kind.greek + size + inGreek(at);
   std::string english = std::string(label) + ": " + kind.english + size + inEnglish(at);
   if (coordinates(at) != coordinates(exact)) {
@@ -94,10 +94,9 @@ std::string cardinalWords(const char* label, const Phrase& kind, const Phrase& m
 constexpr Phrase raysMeet{"οι παραξονικές ακτίνες συναντιούνται", "paraxial rays meet"};
 constexpr Phrase forRays{"για παραξονικές ακτίνες", "for paraxial rays"};
 
-// The image of a source as marked and as paraxial rays form it. It is real behind the second
-// principal plane, where light goes to.
+// The image of a source as marked and as paraxial rays form it.
 std::string imageWords(Point source, Point marked, Point paraxial, bool real) {
-  const std::string size = formatShort(marked.y / source.y) + ",";
+  const std::string size = formatHundredths(marked.y / source.y) + ",";
   std::string greek = std::string("είδωλο: ") + (real ? "πραγματικό" : "φανταστικό") +
                       ", μεγέθυνση " + size + inGreek(marked);
   std::string english = std::string("image: ") + (real ? "real" : "virtual") + ", magnification " +
@@ -109,13 +108,14 @@ std::string imageWords(Point source, Point marked, Point paraxial, bool real) {
   return greek + "\n" + english;
 }
 
-void offerImage(Nearest& nearest, const CardinalPoints& points, const CardinalPoints& paraxial,
-                Point source, Travel travel) {
-  if (!canConstruct(points, source, travel)) return;
-  const Point image = imageOf(points, source, travel);
+void offerImage(Nearest& nearest, const Fakos& fakos, const CardinalPoints& marked,
+                const CardinalPoints& paraxial, Point source) {
+  const Travel travel = travelFrom(source, fakos);
+  if (!canConstruct(marked, source, travel)) return;
+  const Point image = imageOf(marked, source, travel);
   const Point exact =
       canConstruct(paraxial, source, travel) ? imageOf(paraxial, source, travel) : image;
-  const bool real = travel == Travel::Right ? image.x > points.H2 : image.x < points.H1;
+  const bool real = isReal(image, fakos, travel);
   nearest.point(Rank::Mark, image, [=] { return imageWords(source, image, exact, real); });
 }
 
@@ -144,7 +144,7 @@ void offerCardinalPoints(Nearest& nearest, const Fakos& fakos, double n, Point s
   offer("F2", focus, raysMeet, &CardinalPoints::F2);
   offer("N1", node, forRays, &CardinalPoints::N1);
   offer("N2", node, forRays, &CardinalPoints::N2);
-  offerImage(nearest, marked, paraxial, source, travelFrom(source, fakos));
+  offerImage(nearest, fakos, marked, paraxial, source);
 }
 
 // What the optical path of rays is counted from.

@@ -69,6 +69,10 @@ Point imageOf(const CardinalPoints& points, Point source, Travel travel) {
   return {(p.H2 + (y - yS) / slope).value(), y.value()};
 }
 
+bool isReal(Point image, const Fakos& fakos, Travel travel) {
+  return travel == Travel::Right ? image.x >= rightVertex(fakos) : image.x <= leftVertex(fakos);
+}
+
 void drawCardinalMarks(Canvas& canvas, const CardinalPoints& points) {
   canvas.DrawWidth(1);  // a wider pen would not dot
   canvas.DrawStyle(DrawStyle::Dotted);

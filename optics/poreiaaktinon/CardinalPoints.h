@@ -44,6 +44,9 @@ bool canConstruct(const CardinalPoints& points, Point source, Travel travel);
 // the source. Division by zero (11) where canConstruct is false.
 Point imageOf(const CardinalPoints& points, Point source, Travel travel);
 
+// True when light that has left the lens comes together at the image: it stands behind the lens.
+bool isReal(Point image, const Fakos& fakos, Travel travel);
+
 // How far the principal planes are drawn above and below the axis, user units.
 inline constexpr double planeHalfHeight = 200.0;
 // The principal planes, dotted, and the focal and nodal points as dots.

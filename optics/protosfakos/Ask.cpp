@@ -27,7 +27,7 @@ void offerMarks(Nearest& nearest, const Scene& scene) {
     const double c = std::hypot(a, b);
     const Point focus{-c, 0.0};
     nearest.point(Rank::Mark, focus, [=] {
-      const std::string size = "c = " + formatShort(c) + ", ";
+      const std::string size = std::string("c = ") + formatShort(c) + ", ";
       return "εστία της υπερβολής: " + size + "στο " + coordinates(focus) +
              ", εδώ συναντιούνται οι ακτίνες που μέσα στο γυαλί είναι παράλληλες στον άξονα\n" +
              "focus of the hyperbola: " + size + "at " + coordinates(focus) +
@@ -46,12 +46,12 @@ void offerMarks(Nearest& nearest, const Scene& scene) {
   }
   if (const auto* fan = std::get_if<Fan>(&asked.rays)) {
     nearest.point(Rank::Mark, fan->source, [source = fan->source] {
-      return "πηγή των ακτίνων: στο " + coordinates(source) + "\nsource of the rays: at " +
-             coordinates(source);
+      return std::string("πηγή των ακτίνων: στο ") + coordinates(source) +
+             "\nsource of the rays: at " + coordinates(source);
     });
   }
   nearest.point(Rank::Mark, {a, 0.0}, [a] {
-    const std::string size = "a = " + formatShort(a) + ", ";
+    const std::string size = std::string("a = ") + formatShort(a) + ", ";
     const std::string place = coordinates({a, 0.0});
     return "κορυφή της υπερβολής: " + size + "στο " + place + "\nvertex of the hyperbola: " + size +
            "at " + place;

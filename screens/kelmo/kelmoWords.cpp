@@ -42,9 +42,7 @@ void tellImage(InWords& words, const LensScene& scene) {
     return;
   }
   const Point image = imageOf(points, scene.pigi, travel);
-  const bool real = travel == Travel::Right ? image.x >= rightVertex(scene.fakos)
-                                            : image.x <= leftVertex(scene.fakos);
-  if (real) {
+  if (isReal(image, scene.fakos, travel)) {
     words.add("Το είδωλο της πηγής είναι στο (%1, %2), πραγματικό.",
               "The image of the source is at (%1, %2), real.", image.x, image.y);
   } else {

@@ -28,10 +28,10 @@ TEST(Format, HundredthsAlwaysShowTwoDecimalsAndAPoint) {
   EXPECT_EQ(formatHundredths(Variant()), "0.00");
 }
 
-TEST(Format, ShortNumbersDropLastZeros) {
+TEST(Format, ShortNumbersHaveNoDecimalsOrTwo) {
   EXPECT_EQ(formatShort(12), "12");
   EXPECT_EQ(formatShort(100), "100");
-  EXPECT_EQ(formatShort(2.5), "2.5");
+  EXPECT_EQ(formatShort(2.5), "2.50");
   EXPECT_EQ(formatShort(-2.345), "-2.35");
   EXPECT_EQ(formatShort(-0.004), "0");
   EXPECT_EQ(formatShort(0.999), "1");

@@ -147,8 +147,8 @@ TEST(AskRays, AStopTellsTheOpening) {
             "stopped by the diaphragm, its opening is 0: drag the blades apart");
   EXPECT_EQ(stopSaid({0.0, -3.0, 4.0}), stopSaid({0.0, 0.0, 0.0}));
   EXPECT_EQ(stopSaid({0.0, 3.0, -1.5}),
-            "σταμάτησε στο διάφραγμα, η οπή του είναι 4.5\n"
-            "stopped by the diaphragm, its opening is 4.5");
+            "σταμάτησε στο διάφραγμα, η οπή του είναι 4.50\n"
+            "stopped by the diaphragm, its opening is 4.50");
   EXPECT_EQ(stopSaid({0.0, 0.0, 0.0}, {" εκεί", " there"}),
             "σταμάτησε στο διάφραγμα, η οπή του είναι 0: σύρε τα άκρα του για να ανοίξει εκεί\n"
             "stopped by the diaphragm, its opening is 0: drag the blades apart there");
@@ -177,11 +177,11 @@ TEST(AskRays, BackwardsIsHalfATurnEitherWay) {
   }
 }
 
-TEST(AskRays, NumbersKeepTwoDecimalsAtMost) {
-  EXPECT_EQ(coordinates({12.5, -3.0}), "(12.5, -3)");
+TEST(AskRays, NumbersHaveNoDecimalsOrTwo) {
+  EXPECT_EQ(coordinates({12.5, -3.0}), "(12.50, -3)");
   EXPECT_EQ(coordinates({-0.001, 100.0}), "(0, 100)");
   EXPECT_EQ(frontWords(2.5, {"εδώ", "here"}),
-            "μέτωπο κύματος: οπτικός δρόμος 2.5 από εδώ\nwave front: optical path 2.5 from here");
+            "μέτωπο κύματος: οπτικός δρόμος 2.50 από εδώ\nwave front: optical path 2.50 from here");
 }
 
 }  // namespace

@@ -108,7 +108,7 @@ TEST(Ask, AThinnerStuffHasItsFociOnTheOtherSide) {
 
 TEST(Ask, TheImageIsRealOrVirtual) {
   const CardinalPoints points = cardinalPoints(lens, 1.5);
-  const Point real = imageOf(points, source, Travel::Right).at;
+  const Point real = imageOf(points, source, Travel::Right);
   EXPECT_EQ(said(onlyLens(), real),
             "είδωλο: πραγματικό, μεγέθυνση -1.89, στο (349.37, -56.84), "
             "οι παραξονικές ακτίνες συναντιούνται στο (364.94, -62.07)\n"
@@ -116,12 +116,12 @@ TEST(Ask, TheImageIsRealOrVirtual) {
             "paraxial rays meet at (364.94, -62.07)");
   const Point inside{-100.0, 20.0};
   const std::string text =
-      said(onlyLens({lens, 1.5, inside}), imageOf(points, inside, Travel::Right).at);
+      said(onlyLens({lens, 1.5, inside}), imageOf(points, inside, Travel::Right));
   EXPECT_TRUE(contains(text, "image: virtual, magnification 3.27")) << text;
   EXPECT_TRUE(contains(text, "είδωλο: φανταστικό, μεγέθυνση 3.27")) << text;
   // From the right, light goes to the left: the real image stands there.
   const Point right{250.0, 30.0};
-  const Point left = imageOf(points, right, Travel::Left).at;
+  const Point left = imageOf(points, right, Travel::Left);
   EXPECT_LT(left.x, 0.0);
   EXPECT_TRUE(contains(said(onlyLens({lens, 1.5, right}), left), "image: real, magnification -"));
 }
@@ -233,15 +233,15 @@ TEST(Ask, MovingFrontsTellTheirOpticalPath) {
   const Sent sent = fan({lens, 1.5, {}}, source, 1.0);
   const Shown early{{WaveScene{lens, 1.5}, Fronts{sent, 25}}};
   EXPECT_EQ(said(early, source + Point{-62.5, 0.0}),
-            "μέτωπο κύματος: οπτικός δρόμος 62.5 από την πηγή\n"
-            "wave front: optical path 62.5 from the source");
+            "μέτωπο κύματος: οπτικός δρόμος 62.50 από την πηγή\n"
+            "wave front: optical path 62.50 from the source");
   EXPECT_EQ(said(early, source + Point{-30.0, 0.0}), "");
   const Shown later{{WaveScene{lens, 1.5}, Fronts{sent, 45}}};
-  EXPECT_TRUE(contains(said(later, source + Point{-112.5, 0.0}), "optical path 112.5 from"));
-  EXPECT_TRUE(contains(said(later, source + Point{-12.5, 0.0}), "optical path 12.5 from"));
+  EXPECT_TRUE(contains(said(later, source + Point{-112.5, 0.0}), "optical path 112.50 from"));
+  EXPECT_TRUE(contains(said(later, source + Point{-12.5, 0.0}), "optical path 12.50 from"));
   // Between two points of the front, on the piece that joins them.
   const Point between = source + 62.5 * unit(Point{-std::cos(0.5 * pi / 180.0), 0.0087265355});
-  EXPECT_TRUE(contains(said(early, between, 0.1), "optical path 62.5 from"));
+  EXPECT_TRUE(contains(said(early, between, 0.1), "optical path 62.50 from"));
   EXPECT_TRUE(contains(said(later, {93.31, 0.0}), "right focus of the thin lens"));
   EXPECT_FALSE(contains(said(later, {-50.0, 0.0}), "centre"));
 }
