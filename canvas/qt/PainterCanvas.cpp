@@ -80,12 +80,7 @@ void PainterCanvas::strokeCircle(Point centre, double radius, const Pen& pen,
                                  std::optional<Rgb> fill) {
   const Point middle = place(centre);
   const double reach = length(radius);
-  if (fill && isFinite(middle) && std::isfinite(reach)) {
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(colourOf(*fill));
-    painter_.drawEllipse(QPointF(middle.x, middle.y), reach, reach);
-    painter_.setBrush(Qt::NoBrush);
-  }
+  if (fill && isFinite(middle) && std::isfinite(reach)) paintDisc(middle, reach, *fill);
   strokeArc(centre, radius, pen, 0.0, 2.0 * std::numbers::pi);
 }
 
@@ -116,11 +111,15 @@ void PainterCanvas::strokeArc(Point centre, double radius, const Pen& pen, doubl
 
 void PainterCanvas::paintDot(Point centre, const Pen& pen) {
   const Point middle = place(centre);
-  if (!isFinite(middle)) return;
+  if (isFinite(middle)) paintDisc(middle, pen.width / 2.0, pen.colour);
+}
+
+void PainterCanvas::paintDisc(Point middle, double radius, Rgb colour) {
   painter_.setPen(Qt::NoPen);
-  painter_.setBrush(colourOf(pen.colour));
-  painter_.drawEllipse(QPointF(middle.x, middle.y), pen.width / 2.0, pen.width / 2.0);
-  painter_.setBrush(Qt::NoBrush);
+  // A file would say the same brush again for every one of many dots.
+  const QBrush brush(colourOf(colour));
+  if (painter_.brush() != brush) painter_.setBrush(brush);
+  painter_.drawEllipse(QPointF(middle.x, middle.y), radius, radius);
 }
 
 double PainterCanvas::paintText(Point upperLeft, std::string_view text, const Font& font,

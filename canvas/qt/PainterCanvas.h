@@ -40,6 +40,8 @@ class PainterCanvas final : public Canvas {
   // On the client area, where a point stands in the middle of its pixel.
   Point place(Point user) const;
   double length(double user) const;
+  // A disc without border on the client area.
+  void paintDisc(Point middle, double radius, Rgb colour);
   // Where x grows leftward, so does angle 0 point.
   double angle(double user) const;
 
