@@ -5,11 +5,23 @@
 
 #include <QString>
 
+#include "canvas/Canvas.h"
+#include "canvas/Format.h"
+
 namespace lensbench {
 
 // A caption in UTF-8 with a formatted number right behind it.
 inline QString labelled(const char* caption, const std::string& number) {
   return QString::fromUtf8(caption) + QString::fromStdString(number);
+}
+
+// Numbers inside a sentence; a point as its two coordinates in parentheses.
+inline QString whole(double number) { return QString::fromStdString(formatWhole(number)); }
+inline QString hundredths(double number) {
+  return QString::fromStdString(formatHundredths(number));
+}
+inline QString coordinates(Point p) {
+  return QStringLiteral("(%1, %2)").arg(hundredths(p.x), hundredths(p.y));
 }
 
 // Said of an index of refraction below 1: when a lens is opened or a bundle asked for, and when the

@@ -112,8 +112,10 @@ void Form::mouseReleased(const QMouseEvent& event) {
   report(&Form::MouseUp, event.button(), event);
 }
 
-void Form::endDrag() {
-  if (std::exchange(dragging_, false)) emit DragEnded();
+bool Form::endDrag() {
+  const bool held = std::exchange(dragging_, false);
+  if (held) emit DragEnded();
+  return held;
 }
 
 bool Form::event(QEvent* event) {

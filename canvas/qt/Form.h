@@ -106,13 +106,16 @@ class Form : public QMainWindow {
   void moveEvent(QMoveEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+  // A press of the left button that is held here is over: its release will not be told. False when
+  // none is held.
+  bool endDrag();
+
  private:
   void mousePressed(const QMouseEvent& event);
   void mouseMoved(const QMouseEvent& event);
   void mouseReleased(const QMouseEvent& event);
   using MouseSignal = void (Form::*)(int, int, double, double);
   void report(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent& event);
-  void endDrag();
 
   void settle();
   // Whether the window is neither maximised nor minimised.

@@ -48,7 +48,7 @@ std::optional<Point> sourceOf(const protosfakos::Shown& shown) {
 
 }  // namespace
 
-ElSahl::ElSahl(const Context& context) : Form(design), context_(context), controls_(*this) {
+ElSahl::ElSahl(const Context& context) : DrawingScreen(design, context), controls_(*this) {
   setAccessibleName("Υπερβολικός φακός · Hyperbolic lens");
   drawingArea()->setAccessibleName(
       QStringLiteral("Υπερβολικός φακός, πάτησε για να βάλεις την πηγή · "
@@ -148,13 +148,18 @@ void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
   context_.shared.onlyWavesAsked = false;
   const Point p{X, Y};
-  atPress_ = diafragma();
-  syromenigrammi1 = controls_.onUpperEdge(p);
-  syromenigrammi2 = !syromenigrammi1 && controls_.onLowerEdge(p);
-  if (dragging() || !hasLensOr(sceneRefused)) return;
+  beforePress_ = state();
+  pigiXBefore_ = context_.shared.pigiX;
+  pigiYBefore_ = context_.shared.pigiY;
+  take(takenAt(p));
+  if (!dragging()) placeSource(p);
+}
+
+void ElSahl::placeSource(Point p) {
+  if (!hasLensOr(sceneRefused)) return;
   hintUsed();
-  context_.shared.pigiX = X;
-  context_.shared.pigiY = Y;
+  context_.shared.pigiX = p.x;
+  context_.shared.pigiY = p.y;
   drawFan();
 }
 
@@ -162,7 +167,7 @@ void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
   const Point p{X, Y};
   if (dragging()) dragTo(p);
   // Kept on purpose: of the two drags only that of the upper edge holds the cross.
-  const bool onEdge = syromenigrammi1 || controls_.onUpperEdge(p) || controls_.onLowerEdge(p);
+  const bool onEdge = syromenigrammi1 || takenAt(p).has_value();
   MousePointer(onEdge ? cross : arrow);
 }
 
@@ -173,6 +178,12 @@ void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
   syromenigrammi2 = false;
   hintUsed();
   if (hasLens() && !followValues()) drawFan();
+}
+
+void ElSahl::take(std::optional<int> thing) {
+  atPress_ = diafragma();
+  syromenigrammi1 = thing == UpperEdge;
+  syromenigrammi2 = thing == LowerEdge;
 }
 
 void ElSahl::dragTo(Point p) {

@@ -1,9 +1,8 @@
 // The Ibn Sahl screen: a hyperbolic lens, its source or bundle, its wavefronts and its diaphragm.
 #pragma once
 
-#include "canvas/qt/Form.h"
 #include "optics/protosfakos/Picture.h"
-#include "screens/Context.h"
+#include "screens/DrawingScreen.h"
 #include "screens/Easel.h"
 #include "screens/ElSahl/Edges.h"
 #include "screens/ElSahl/SahlControls.h"
@@ -11,8 +10,11 @@
 
 namespace lensbench {
 
-class ElSahl : public Form {
+class ElSahl : public DrawingScreen {
  public:
+  // What can be taken or placed, as ids of things.
+  enum Taken { Source, UpperEdge, LowerEdge };
+
   explicit ElSahl(const Context& context);
 
   SahlControls& controls() { return controls_; }
@@ -40,6 +42,14 @@ class ElSahl : public Form {
   void repeat();
   // The same while following; false where nothing follows.
   bool followValues();
+
+  std::vector<Thing> things() const override;
+  // The edges; elsewhere the mouse places the source anew.
+  std::optional<int> takenAt(Point p) const override;
+  std::optional<Answer> ask(Point p, double reach) const override;
+  void put(int thing, Point p) override;
+  bool leaveDrag() override;
+  void enter(int thing) override;
 
   // Handlers, named after control and event.
   void Form_Load();
@@ -69,6 +79,10 @@ class ElSahl : public Form {
   void placeEdges(const light::Diafragma& diafragma);
   Reach reach() const;
   bool dragging() const { return syromenigrammi1 || syromenigrammi2; }
+  // Holds what a press takes: an edge, or nothing.
+  void take(std::optional<int> thing);
+  // Draws the fan of a source there.
+  void placeSource(Point p);
   void dragTo(Point p);
   // The edges go back to where they were taken.
   void dragEnded();
@@ -82,12 +96,13 @@ class ElSahl : public Form {
   // For an index below 1 false, and the message is shown.
   bool hasLensOr(const QString& message);
 
-  Context context_;
   SahlControls controls_;
   Easel<protosfakos::Shown> easel_{*this};
-  light::Diafragma atPress_;          // as the diaphragm was when the mouse took an edge
-  double side_ = 0.0;                 // of the window with its frame, as it opens, twips
-  QSizeF opening_ = canvas().size();  // of the drawing area then, logical pixels
+  SahlState beforePress_;              // of the mouse, as a drag that is left puts it back
+  Variant pigiXBefore_, pigiYBefore_;  // likewise, the shared source
+  light::Diafragma atPress_;           // as the diaphragm was when the mouse took an edge
+  double side_ = 0.0;                  // of the window with its frame, as it opens, twips
+  QSizeF opening_ = canvas().size();   // of the drawing area then, logical pixels
 };
 
 }  // namespace lensbench

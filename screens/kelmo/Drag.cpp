@@ -75,6 +75,10 @@ Grab grabAt(Point p, const Diafragma& diafragma, const Fakos& fakos, const Edges
   return blade == Grab::None ? circleAt(p, fakos) : blade;
 }
 
+double edgeHalfAngle(double radius) {
+  return radius > 0.0 ? std::acos(std::max(-1.0, 1.0 - edgeMargin / radius)) : 0.0;
+}
+
 bool insideLens(Point p, const Fakos& fakos) {
   return poreiaaktinon::hasLens(fakos) && distance(p, fakos.xc1) <= fakos.R1 &&
          distance(p, fakos.xc2) <= fakos.R2;

@@ -26,6 +26,9 @@ enum class Grab {
 Grab grabAt(Point p, const poreiaaktinon::Diafragma& diafragma, const poreiaaktinon::Fakos& fakos,
             const light::Edges& edges);
 
+// Half the angle of the two arcs by which the edge of a circle is taken, radians.
+double edgeHalfAngle(double radius);
+
 // Inside the glass, faces included.
 bool insideLens(Point p, const poreiaaktinon::Fakos& fakos);
 

@@ -26,7 +26,7 @@ const FormDesign design{"kelmo", "SPHERICAL  LENSES", 165, 735, 11070, 6120, sys
 }  // namespace
 
 kelmo::kelmo(const Context& context)
-    : Form(design), context_(context), controls_(*this, context.clock), easel_(*this) {
+    : DrawingScreen(design, context), controls_(*this, context.clock), easel_(*this) {
   setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
   describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
   area().describeBy([this] { return inWords(); });

@@ -4,9 +4,8 @@
 #include <optional>
 
 #include "canvas/Variant.h"
-#include "canvas/qt/Form.h"
 #include "optics/poreiaaktinon/Picture.h"
-#include "screens/Context.h"
+#include "screens/DrawingScreen.h"
 #include "screens/Easel.h"
 #include "screens/kelmo/Drag.h"
 #include "screens/kelmo/KelmoControls.h"
@@ -14,7 +13,7 @@
 
 namespace lensbench {
 
-class kelmo : public Form {
+class kelmo : public DrawingScreen {
  public:
   explicit kelmo(const Context& context);
 
@@ -62,6 +61,14 @@ class kelmo : public Form {
   // What stands on the picture, or stood there before it was wiped, once more with the values of
   // the controls.
   void repeat();
+
+  // What can be taken; the ids are those of Grab.
+  std::vector<Thing> things() const override;
+  std::optional<int> takenAt(Point p) const override;
+  std::optional<Answer> ask(Point p, double reach) const override;
+  void put(int thing, Point p) override;
+  bool leaveDrag() override;
+  void enter(int thing) override;
 
   // Handlers, named after control and event.
   void Form_Load();
@@ -130,6 +137,8 @@ class kelmo : public Form {
     Point pigi;                          // likewise
   };
   Grab grabbedAt(Point p) const;
+  // A press that takes this there.
+  void take(Grab grab, Point p);
   Room room() const;
   void showDrag();
   void showDraggedEdge(double centre, int radius);
@@ -159,13 +168,14 @@ class kelmo : public Form {
   bool running() const;
   void endRun();
 
-  const Context context_;
   KelmoControls controls_;
   Easel<poreiaaktinon::Shown> easel_;
   std::optional<poreiaaktinon::Sent> set_;
   std::optional<poreiaaktinon::Standing> wiped_;  // what was cleared last, more than a lens alone
   Drag drag_;
-  int ticks_ = 0;  // tick counter, the time index of the waves
+  KelmoState beforePress_;         // of the mouse, as a drag that is left puts it back
+  bool desmiBeforePress_ = false;  // likewise, desmiMode
+  int ticks_ = 0;                  // tick counter, the time index of the waves
 };
 
 }  // namespace lensbench

@@ -26,7 +26,9 @@ void kelmo::Form_Click() {}
 void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   if (Button != leftButton) return;
   const Point p{X, Y};
-  drag_ = {grabbedAt(p), p, p, diafragma(), pigi()};
+  beforePress_ = state();
+  desmiBeforePress_ = context_.shared.desmiMode;
+  take(grabbedAt(p), p);
   if ((Shift & shiftKey) == 0) return drawAnew();
   context_.shared.desmiMode = false;
   endRun();
@@ -35,6 +37,8 @@ void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   if (controls_.Check2.Value()) prepareWavesInTime();
   add(poreiaaktinon::CardinalMarks{fakos(), n(), pigi()});
 }
+
+void kelmo::take(Grab grab, Point p) { drag_ = {grab, p, p, diafragma(), pigi()}; }
 
 Grab kelmo::grabbedAt(Point p) const {
   if (controls_.upperBladeMark.isAt(p)) return Grab::UpperBlade;

@@ -35,7 +35,7 @@ bool stopped(const single::Shown& shown) {
 
 }  // namespace
 
-moniaktina::moniaktina(const Context& context) : Form(design), context_(context), controls_(*this) {
+moniaktina::moniaktina(const Context& context) : DrawingScreen(design, context), controls_(*this) {
   setAccessibleName("Μία ακτίνα · One ray");
   drawingArea()->setAccessibleName("Σχέδιο με μία ακτίνα · Picture of one ray");
   area().describeBy([this] { return inWords(); });
@@ -143,6 +143,7 @@ void moniaktina::Form_Load() {
 
 void moniaktina::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
+  beforePress_ = state();
   controls_.fos.Left(X);
   controls_.fos.Top(Y);
   controls_.sourceMark.follow(controls_.source());

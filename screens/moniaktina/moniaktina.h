@@ -3,17 +3,19 @@
 #pragma once
 
 #include "canvas/Variant.h"
-#include "canvas/qt/Form.h"
 #include "optics/poreiaaktinon/SingleRayPicture.h"
-#include "screens/Context.h"
+#include "screens/DrawingScreen.h"
 #include "screens/Easel.h"
 #include "screens/moniaktina/MoniaktinaControls.h"
 #include "screens/moniaktina/MoniaktinaState.h"
 
 namespace lensbench {
 
-class moniaktina : public Form {
+class moniaktina : public DrawingScreen {
  public:
+  // What can be placed, as ids of things.
+  enum Placed { Source, Aim };
+
   explicit moniaktina(const Context& context);
 
   MoniaktinaControls& controls() { return controls_; }
@@ -41,6 +43,14 @@ class moniaktina : public Form {
   // values of the controls.
   void repeat();
 
+  std::vector<Thing> things() const override;
+  // Nothing: wherever the mouse is pressed it places the source anew.
+  std::optional<int> takenAt(Point p) const override;
+  std::optional<Answer> ask(Point p, double reach) const override;
+  void put(int thing, Point p) override;
+  bool leaveDrag() override;
+  void enter(int thing) override;
+
   // Handlers, named after control and event.
   void Form_Load();
   void Form_MouseDown(int Button, int Shift, double X, double Y);
@@ -65,6 +75,8 @@ class moniaktina : public Form {
   void lensChanged();
   // Draws over what is there.
   void push(poreiaaktinon::single::Layer layer);
+  // Where the last ray was sent by hand, or before the first one half way to the origin.
+  Point aim() const;
   // Clears and draws the ray from the source towards a point, with the line of its aim.
   void sendRay(Point aim);
   // The same, unless there is no aim or it is straight above or below the source; false then.
@@ -72,10 +84,10 @@ class moniaktina : public Form {
   // While following, the ray that stands on the picture is sent again; false where none is.
   bool followValues();
 
-  Context context_;
   MoniaktinaControls controls_;
   Easel<poreiaaktinon::single::Shown> easel_{*this};
-  std::optional<Point> aimed_;  // where the last ray was sent by hand
+  std::optional<Point> aimed_;   // where the last ray was sent by hand
+  MoniaktinaState beforePress_;  // of the mouse, as a drag that is left puts it back
 };
 
 }  // namespace lensbench

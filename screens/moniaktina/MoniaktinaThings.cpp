@@ -1,0 +1,75 @@
+// What can be placed on the single-ray screen, in words and by other means than the mouse.
+#include <algorithm>
+
+#include "screens/Outline.h"
+#include "screens/Texts.h"
+#include "screens/moniaktina/moniaktina.h"
+
+namespace lensbench {
+namespace {
+
+constexpr double aimRing = 5.0;  // radius of the outline of the aim, pixels
+
+QString sourceWords(Point source) {
+  return QStringLiteral(
+             "Φωτεινή πηγή στο %1. Πάτησε αλλού για να τη βάλεις εκεί.\n"
+             "Light source at %1. Press elsewhere to place it there.")
+      .arg(coordinates(source));
+}
+
+QString aimWords(Point aim) {
+  return QStringLiteral(
+             "Στόχος της ακτίνας στο %1. Άφησε το κουμπί αλλού για να τη στείλεις εκεί.\n"
+             "Aim of the ray at %1. Release the button elsewhere to send it there.")
+      .arg(coordinates(aim));
+}
+
+}  // namespace
+
+Point moniaktina::aim() const {
+  return aimed_.value_or(Point{controls_.fos.Left() / 2.0, controls_.fos.Top() / 2.0});
+}
+
+std::vector<Thing> moniaktina::things() const {
+  const Point corner{controls_.fos.Left(), controls_.fos.Top()};
+  return {
+      // A press puts the corner of the mark, not its middle, where the mouse is.
+      {Source,
+       "Φωτεινή πηγή · Light source",
+       sourceWords(controls_.source()),
+       corner,
+       dotOutline({&controls_.fos, &controls_.sourceMark}),
+       Qt::ArrowCursor,
+       {}},
+      {Aim,
+       "Στόχος της ακτίνας · Aim of the ray",
+       aimWords(aim()),
+       aim(),
+       ringOutline(canvas().mapping(), aim(), aimRing),
+       Qt::ArrowCursor,
+       {}},
+  };
+}
+
+std::optional<int> moniaktina::takenAt(Point /*p*/) const { return std::nullopt; }
+
+std::optional<Answer> moniaktina::ask(Point /*p*/, double /*reach*/) const { return std::nullopt; }
+
+void moniaktina::put(int thing, Point p) {
+  if (thing == Aim) return Form_MouseUp(leftButton, 0, p.x, p.y);
+  // The mouse presses on the drawing area only.
+  const light::Edges area = light::edgesOf(canvas());
+  Form_MouseDown(leftButton, 0, std::clamp(p.x, area.left, area.right),
+                 std::clamp(p.y, area.lower, area.upper));
+  dragEnded();
+}
+
+bool moniaktina::leaveDrag() {
+  if (!Form::endDrag()) return false;
+  restore(beforePress_);
+  return true;
+}
+
+void moniaktina::enter(int /*thing*/) { put(Aim, aim()); }
+
+}  // namespace lensbench
