@@ -18,7 +18,8 @@ template <class Shown>
 class Easel {
  public:
   explicit Easel(Form& form) : form_(form) {
-    form_.area().drawBy([this] { bringUpToDate(); });
+    form_.area().drawBy([this] { bringUpToDate(); },
+                        [this](Canvas& canvas) { draw(canvas, shown_); });
     // The area asks for the drawing by itself.
     lost_ = QObject::connect(&form_.canvas(), &RasterCanvas::pictureLost, &form_,
                              [this] { drawn_.reset(); });

@@ -12,13 +12,14 @@
 
 #include "canvas/qt/Dialogs.h"
 #include "canvas/qt/Form.h"
+#include "canvas/qt/TakenPicture.h"
 
 namespace lensbench {
 namespace {
 
 struct Kind {
   FileKind shown;
-  QByteArray (*make)(const TakenPicture&);
+  QByteArray (*make)(Form&);
 };
 
 const QList<Kind>& kinds() {
@@ -31,9 +32,11 @@ const QList<Kind>& kinds() {
 }
 
 // The English name of the screen: such a file name lasts on every system.
-QString proposedName(const TakenPicture& picture) {
-  return picture.form.accessibleName().section(QStringLiteral(" · "), -1) + QStringLiteral(".png");
+QString proposedName(Form& form) {
+  return form.accessibleName().section(QStringLiteral(" · "), -1) + QStringLiteral(".png");
 }
+
+enum class Written { Whole, NotOpened, NotWhole };
 
 template <typename File>
 Written writeTo(File& file, const QByteArray& bytes) {
@@ -43,6 +46,19 @@ Written writeTo(File& file, const QByteArray& bytes) {
     return whole && file.commit() ? Written::Whole : Written::NotWhole;
   }
   return whole ? Written::Whole : Written::NotWhole;
+}
+
+// Replaces what a file holds, at once or, where that fails, not at all. A device is just written
+// to.
+Written writeFile(const QString& name, const QByteArray& bytes) {
+  const QFileInfo there(name);
+  // To put a new file in the place of a device would take the device away.
+  if (there.exists() && !there.isFile()) {
+    QFile device(name);
+    return writeTo(device, bytes);
+  }
+  QSaveFile file(name);
+  return writeTo(file, bytes);
 }
 
 void saveOrSay(const QString& name, const QByteArray& bytes, Dialogs& dialogs) {
@@ -71,42 +87,31 @@ void saveOrSay(const QString& name, const QByteArray& bytes, Dialogs& dialogs) {
 
 }  // namespace
 
-Written writeFile(const QString& name, const QByteArray& bytes) {
-  const QFileInfo there(name);
-  // To put a new file in the place of a device would take the device away.
-  if (there.exists() && !there.isFile()) {
-    QFile device(name);
-    return writeTo(device, bytes);
-  }
-  QSaveFile file(name);
-  return writeTo(file, bytes);
-}
-
-void copyPicture(const TakenPicture& picture) {
+void copyPicture(Form& form) {
   auto* data = new QMimeData;
-  data->setImageData(pixelsOf(picture));
-  data->setData(QStringLiteral("image/svg+xml"), svg(picture));
+  data->setImageData(pixelsOf(form));
+  data->setData(QStringLiteral("image/svg+xml"), svg(form));
   QGuiApplication::clipboard()->setMimeData(data);
 }
 
-void savePicture(const TakenPicture& picture, Dialogs& dialogs) {
+void savePicture(Form& form, Dialogs& dialogs) {
   QList<FileKind> offered;
   for (const Kind& kind : kinds()) offered << kind.shown;
   const auto name = dialogs.SaveBox(QStringLiteral("Αποθήκευση της εικόνας · Save the picture"),
-                                    proposedName(picture), offered);
+                                    proposedName(form), offered);
   if (!name) return;
   const QString suffix = QFileInfo(*name).suffix();
   for (const Kind& kind : kinds()) {
     if (suffix.compare(kind.shown.suffix, Qt::CaseInsensitive) == 0) {
-      saveOrSay(*name, kind.make(picture), dialogs);
+      saveOrSay(*name, kind.make(form), dialogs);
     }
   }
 }
 
-void printPicture(const TakenPicture& picture, Dialogs& dialogs) {
+void printPicture(Form& form, Dialogs& dialogs) {
   QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(picture.form.accessibleName());
-  const QSize size = picture.form.canvas().size();
+  printer.setDocName(form.accessibleName());
+  const QSize size = form.canvas().size();
   printer.setPageOrientation(size.width() > size.height() ? QPageLayout::Landscape
                                                           : QPageLayout::Portrait);
   switch (dialogs.PrintBox(printer)) {
@@ -127,11 +132,11 @@ void printPicture(const TakenPicture& picture, Dialogs& dialogs) {
     QPdfWriter paper(&file);
     paper.setTitle(printer.docName());
     paper.setPageLayout(printer.pageLayout());
-    printOn(paper, picture);
+    printOn(paper, form);
     saveOrSay(printer.outputFileName(), file.data(), dialogs);
     return;
   }
-  if (!printOn(printer, picture)) {
+  if (!printOn(printer, form)) {
     dialogs.MsgBox(QStringLiteral(
         "Η εκτύπωση δεν ξεκίνησε. Δες αν ο εκτυπωτής είναι ανοιχτός και συνδεδεμένος.\n"
         "The printing did not start. See whether the printer is switched on and connected."));

@@ -10,6 +10,7 @@
 #include <QTimerEvent>
 
 #include "canvas/qt/Overlay.h"
+#include "canvas/qt/PainterCanvas.h"
 
 namespace lensbench {
 namespace {
@@ -122,7 +123,7 @@ void DrawingArea::paintEvent(QPaintEvent* event) {
   frame(event->region());
   QPainter painter(this);
   for (const QRect& part : event->region()) paintPicture(painter, part);
-  paintOverlays(painter, [](const Overlay&) { return true; });
+  paintOverlays(painter, Which::All);
 }
 
 QImage DrawingArea::picture() {
@@ -131,21 +132,42 @@ QImage DrawingArea::picture() {
   picture.setDevicePixelRatio(canvas_.devicePixelRatio());
   QPainter painter(&picture);
   paintPicture(painter, QRect(QPoint(0, 0), canvas_.size()));
-  paintInPicture(painter);
+  paintOverlays(painter, Which::InPicture);
   return picture;
 }
 
-void DrawingArea::paintInPicture(QPainter& painter) const {
-  paintOverlays(painter, [](const Overlay& overlay) { return overlay.InPicture(); });
+void DrawingArea::paintVectors(QPainter& painter, const QRectF& target) const {
+  const QSizeF size = canvas_.size();
+  {
+    PainterCanvas vectors(painter, target, size);
+    if (canvas_.hasUserScale()) {
+      vectors.Scale(canvas_.ScaleLeft(), canvas_.ScaleTop(),
+                    canvas_.ScaleLeft() + canvas_.ScaleWidth(),
+                    canvas_.ScaleTop() + canvas_.ScaleHeight());
+    }
+    vectors.BackColor(canvas_.BackColor());
+    vectors.ForeColor(canvas_.ForeColor());
+    vectors.FontName(canvas_.FontName());
+    vectors.FontSize(canvas_.FontSize());
+    vectors.Cls();
+    if (drawAnywhere_) drawAnywhere_(vectors);
+  }
+  painter.save();
+  painter.translate(target.topLeft());
+  painter.scale(target.width() / size.width(), target.height() / size.height());
+  painter.setClipRect(QRectF(QPointF(0.0, 0.0), size), Qt::IntersectClip);
+  paintOverlays(painter, Which::InPicture);
+  painter.restore();
 }
 
-template <typename Wanted>
-void DrawingArea::paintOverlays(QPainter& painter, Wanted&& wanted) const {
+void DrawingArea::paintOverlays(QPainter& painter, Which which) const {
   painter.setRenderHint(QPainter::Antialiasing);
   // As on the canvas, a point stands in the middle of its pixel.
   painter.translate(0.5, 0.5);
   for (const Overlay* overlay : findChildren<Overlay*>(Qt::FindDirectChildrenOnly)) {
-    if (overlay->Visible() && wanted(*overlay)) overlay->paint(painter);
+    if (overlay->Visible() && (which == Which::All || overlay->InPicture())) {
+      overlay->paint(painter);
+    }
   }
   painter.translate(-0.5, -0.5);
 }

@@ -25,15 +25,19 @@ class DrawingArea : public QWidget {
   RasterCanvas& canvas() noexcept { return canvas_; }
 
   // How the picture is brought up to date: called before it is shown or read, while it is stale.
-  void drawBy(std::function<void()> bringUpToDate) { draw_ = std::move(bringUpToDate); }
+  // anywhere draws all of it from nothing on another canvas of the same scale.
+  void drawBy(std::function<void()> bringUpToDate, std::function<void(Canvas&)> anywhere = {}) {
+    draw_ = std::move(bringUpToDate);
+    drawAnywhere_ = std::move(anywhere);
+  }
   // The picture has to be drawn before the next frame, and that frame is wanted.
   void stale();
   // The picture up to date.
   const QImage& image();
   // What is seen, at the display's pixels: the picture and those overlays that belong to it.
   QImage picture();
-  // Those overlays, on a painter in logical pixels of the area.
-  void paintInPicture(QPainter& painter) const;
+  // The same as vectors, into a rectangle in the painter's units, of the proportions of the area.
+  void paintVectors(QPainter& painter, const QRectF& target) const;
 
   // How the picture is put in words for those who cannot see it; nothing but a screen reader asks.
   void describeBy(std::function<QString()> inWords) { inWords_ = std::move(inWords); }
@@ -70,13 +74,15 @@ class DrawingArea : public QWidget {
   // Brings the picture up to date and shows what has changed outside what is being painted anyway.
   void frame(const QRegion& painted);
   void paintPicture(QPainter& painter, const QRect& part);
-  template <typename Wanted>
-  void paintOverlays(QPainter& painter, Wanted&& wanted) const;
+  enum class Which { All, InPicture };
+  // On a painter in logical pixels.
+  void paintOverlays(QPainter& painter, Which which) const;
   void keepOverlaysInPlace(const UserMapping& old);
 
   RasterCanvas canvas_;
   QImage strip_;  // of the display, on its way there
   std::function<void()> draw_;
+  std::function<void(Canvas&)> drawAnywhere_;
   std::function<QString()> inWords_;
   QString toldWords_;
   QBasicTimer beforeTelling_;

@@ -59,8 +59,10 @@ struct Bench {
       overlay->Visible(visible);
     }
   }
-  TakenPicture taken(std::function<void(Canvas&)> draw = [](Canvas& canvas) { canvas.Cls(); }) {
-    return {form, std::move(draw)};
+  // With another drawing.
+  Form& taken(std::function<void(Canvas&)> draw) {
+    form.area().drawBy({}, std::move(draw));
+    return form;
   }
 
   Form form;
@@ -187,7 +189,7 @@ TEST(TakenPicture, HasThePixelsThatAreSeenButNoControlsAndNoHalo) {
   };
   bench.form.area().drawBy([&] { drawing(bench.form.canvas()); });
   bench.form.area().stale();
-  QImage taken = pixelsOf(bench.taken());
+  QImage taken = pixelsOf(bench.form);
   bench.halo.Visible(false);
   QImage seen(bench.form.drawingArea()->size(), QImage::Format_RGB32);
   bench.form.drawingArea()->render(&seen, {}, {}, QWidget::DrawWindowBackground);
@@ -196,7 +198,7 @@ TEST(TakenPicture, HasThePixelsThatAreSeenButNoControlsAndNoHalo) {
   EXPECT_GT(count(taken, orange), 20);
   EXPECT_GT(count(taken, green), 100);
   EXPECT_EQ(count(taken, red), 0);
-  const QImage inFile = QImage::fromData(png(bench.taken()));
+  const QImage inFile = QImage::fromData(png(bench.form));
   EXPECT_EQ(inFile.convertToFormat(QImage::Format_RGB32), seen);
   EXPECT_NEAR(inFile.dotsPerMeterX(), 96 / 0.0254, 1.0);
   bench.form.area().drawBy({});
@@ -204,8 +206,8 @@ TEST(TakenPicture, HasThePixelsThatAreSeenButNoControlsAndNoHalo) {
 
 TEST(TakenPicture, HasBladesAndSourceInItsFilesToo) {
   Bench bench(wide);
-  const QImage seen = pixelsOf(bench.taken());
-  for (const QByteArray& file : {svg(bench.taken()), pdf(bench.taken())}) {
+  const QImage seen = pixelsOf(bench.form);
+  for (const QByteArray& file : {svg(bench.form), pdf(bench.form)}) {
     SCOPED_TRACE(file.left(4).toStdString());
     const QImage vectors = rendered(file);
     for (const Rgb colour : {blue, orange}) {
@@ -219,7 +221,7 @@ TEST(TakenPicture, HasBladesAndSourceInItsFilesToo) {
 
 TEST(TakenPicture, IsAsLargeInItsFilesAsOnAUsualDisplay) {
   Bench bench(square);
-  const auto file = QString::fromUtf8(svg(bench.taken()));
+  const auto file = QString::fromUtf8(svg(bench.form));
   const QRegularExpression size("width=\"([0-9.]+)mm\" height=\"([0-9.]+)mm\"");
   const auto match = size.match(file);
   ASSERT_TRUE(match.hasMatch());
@@ -229,7 +231,7 @@ TEST(TakenPicture, IsAsLargeInItsFilesAsOnAUsualDisplay) {
   EXPECT_TRUE(file.contains("<title>Πάγκος · Bench</title>"));
   const Folder folder;
   const QString facts =
-      QString::fromUtf8(outputOf("pdfinfo", {folder.put("bench.pdf", pdf(bench.taken()))}));
+      QString::fromUtf8(outputOf("pdfinfo", {folder.put("bench.pdf", pdf(bench.form))}));
   EXPECT_TRUE(facts.contains(QRegularExpression("Pages: +1\n"))) << facts.toStdString();
   EXPECT_TRUE(facts.contains(QRegularExpression("Page size: +405 x 360 pts")))
       << facts.toStdString();
@@ -263,7 +265,7 @@ TEST(TakenPicture, WritesLettersAsOutlinesThatNeedNoFont) {
 
 TEST(TakenPicture, StandsInTheMiddleOfAPageInsideItsMargins) {
   Bench bench(wide);
-  const auto picture = bench.taken([](Canvas& canvas) {
+  Form& picture = bench.taken([](Canvas& canvas) {
     canvas.Cls();
     canvas.DrawWidth(4);
     canvas.Line(-400, 200, 400, 200, green);

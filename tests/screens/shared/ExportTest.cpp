@@ -14,8 +14,10 @@
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 
+#include "canvas/qt/DrawingArea.h"
 #include "canvas/qt/Form.h"
 #include "canvas/qt/LineControl.h"
+#include "canvas/qt/TakenPicture.h"
 #include "screens/Export.h"
 #include "tests/screens/support/FakeDialogs.h"
 
@@ -28,6 +30,8 @@ class ExportTest : public testing::Test {
     form.setAccessibleName("Πάγκος · Bench");
     blade.BorderColor(RGB(0, 0, 255));
     blade.BorderWidth(4);
+    form.area().drawBy({},
+                       [](Canvas& canvas) { canvas.Line(150, 150, 2850, 1350, RGB(255, 0, 0)); });
   }
 
   QString path(const QString& name) const { return folder.filePath(name); }
@@ -42,7 +46,7 @@ class ExportTest : public testing::Test {
   }
   void save(const QString& file) {
     dialogs.fileName = file;
-    savePicture(picture, dialogs);
+    savePicture(form, dialogs);
   }
   void expectSaid(const QString& greek, const QString& english) const {
     ASSERT_EQ(dialogs.messages.size(), 1);
@@ -56,18 +60,14 @@ class ExportTest : public testing::Test {
   FakeDialogs dialogs;
   Form form{{"bench", "", 0, 0, 3000, 1500, RGB(255, 255, 255)}};
   LineControl blade{form, "blade", {1500, 300, 1500, 900}};
-  TakenPicture picture{form, [](Canvas& canvas) {
-                         canvas.Cls();
-                         canvas.Line(150, 150, 2850, 1350, RGB(255, 0, 0));
-                       }};
 };
 
 TEST_F(ExportTest, CopiesAnImageAndAVectorPictureAtOnce) {
-  copyPicture(picture);
+  copyPicture(form);
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   ASSERT_TRUE(data->hasImage());
   EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).convertToFormat(QImage::Format_RGB32),
-            pixelsOf(picture));
+            pixelsOf(form));
   QSvgRenderer vectors(data->data("image/svg+xml"));
   ASSERT_TRUE(vectors.isValid());
   EXPECT_EQ(vectors.viewBox(), QRect(0, 0, 200, 100));
@@ -75,7 +75,7 @@ TEST_F(ExportTest, CopiesAnImageAndAVectorPictureAtOnce) {
 }
 
 TEST_F(ExportTest, ProposesANameAndOffersThreeKindsOfFile) {
-  savePicture(picture, dialogs);
+  savePicture(form, dialogs);
   EXPECT_EQ(dialogs.proposed, QStringList{"Bench.png"});
   EXPECT_EQ(dialogs.titles, QStringList{"Αποθήκευση της εικόνας · Save the picture"});
   QStringList suffixes;
@@ -89,9 +89,9 @@ TEST_F(ExportTest, ProposesANameAndOffersThreeKindsOfFile) {
 TEST_F(ExportTest, SavesWhatTheSuffixSays) {
   for (const char* name : {"a.png", "b.svg", "c.pdf", "D.PNG"}) save(path(name));
   EXPECT_EQ(QImage::fromData(contents("a.png"), "PNG").convertToFormat(QImage::Format_RGB32),
-            pixelsOf(picture));
+            pixelsOf(form));
   EXPECT_EQ(contents("D.PNG"), contents("a.png"));
-  EXPECT_EQ(contents("b.svg"), svg(picture));
+  EXPECT_EQ(contents("b.svg"), svg(form));
   EXPECT_TRUE(contents("c.pdf").startsWith("%PDF-"));
   EXPECT_TRUE(contents("c.pdf").endsWith("%%EOF\n"));
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 4);
@@ -101,7 +101,7 @@ TEST_F(ExportTest, SavesWhatTheSuffixSays) {
 TEST_F(ExportTest, ReplacesAFileThatMayBeReplaced) {
   put("a.svg", "before");
   save(path("a.svg"));
-  EXPECT_EQ(contents("a.svg"), svg(picture));
+  EXPECT_EQ(contents("a.svg"), svg(form));
 }
 
 TEST_F(ExportTest, SaysThatNothingCanBeWrittenWhereNoFolderIs) {
@@ -175,7 +175,7 @@ TEST_F(ExportTest, PrintsOnOnePageThatLiesAsThePictureDoes) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     return Printing::Wanted;
   };
-  printPicture(picture, dialogs);
+  printPicture(form, dialogs);
   const QByteArray page = contents("page.pdf");
   EXPECT_TRUE(page.contains("/Count 1\n")) << page.left(400).toStdString();
   const auto size = page.mid(page.indexOf("/MediaBox"), 60);
@@ -189,13 +189,13 @@ TEST_F(ExportTest, PrintsATallPictureOnAnUprightPage) {
     EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
     return Printing::Cancelled;
   };
-  printPicture(picture, dialogs);
+  printPicture(form, dialogs);
   EXPECT_TRUE(dialogs.messages.isEmpty());
 }
 
 TEST_F(ExportTest, SaysThatThereIsNoPrinter) {
   dialogs.printing = [](QPrinter&) { return Printing::NoPrinter; };
-  printPicture(picture, dialogs);
+  printPicture(form, dialogs);
   expectSaid("Δεν βρέθηκε εκτυπωτής", "No printer was found");
 }
 
@@ -205,7 +205,7 @@ TEST_F(ExportTest, SaysThatAPageCouldNotBePrintedIntoAFile) {
     printer.setOutputFileName(path("file/page.pdf"));
     return Printing::Wanted;
   };
-  printPicture(picture, dialogs);
+  printPicture(form, dialogs);
   expectSaid("δεν μπορεί να γραφτεί εκεί", "cannot be written there");
   EXPECT_EQ(contents("file"), "before");
 }
