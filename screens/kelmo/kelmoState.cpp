@@ -29,7 +29,7 @@ KelmoState::Waves wavesOf(const Timer& timer, const MenuEntry& entry) {
   return {timer.Enabled(), timer.Interval(), entry.Checked()};
 }
 
-void put(const KelmoState::Waves& waves, Timer& timer, MenuEntry& entry) {
+void setWaves(const KelmoState::Waves& waves, Timer& timer, MenuEntry& entry) {
   timer.Interval(waves.interval);
   timer.Enabled(waves.enabled);
   entry.Checked(waves.marked);
@@ -88,8 +88,8 @@ void kelmo::restore(const KelmoState& state) {
   c.Line1.BorderColor(state.upperBlade);
   placeSource(state.pigi);
   gonia = state.gonia;
-  put(state.time, c.Timer1, c.kymatachronika);
-  put(state.plane, c.Timer2, c.parallilakymata);
+  setWaves(state.time, c.Timer1, c.kymatachronika);
+  setWaves(state.plane, c.Timer2, c.parallilakymata);
   ticks_ = state.ticks;
   wiped_ = state.wiped;
   showStanding(fittedTo(edges(), state.standing));
