@@ -1,8 +1,11 @@
 // Runs a piece of work beside its bare reference, in turn, so that both meet the same machine.
 #pragma once
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstddef>
+#include <vector>
 
 namespace lensbench {
 
@@ -14,20 +17,28 @@ double seconds(Work&& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The time shown is ours; "reference" is the other's in ms, "ratio" ours over it. The benchmark
-// must have been registered with UseManualTime.
+// The middle one of some times, s.
+inline double median(std::vector<double> times) {
+  if (times.empty()) return 0.0;
+  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
+}
+
+// Counters, all from medians: "ms" ours, "reference" the other's, "ratio" ours over it. The
+// benchmark must have been registered with UseManualTime.
 template <typename Ours, typename Reference>
 void compare(benchmark::State& state, Ours&& ours, Reference&& reference) {
-  double sum = 0.0;
-  double referenceSum = 0.0;
+  std::vector<double> times;
+  std::vector<double> referenceTimes;
   for ([[maybe_unused]] auto iteration : state) {
-    const double time = seconds(ours);
-    state.SetIterationTime(time);
-    sum += time;
-    referenceSum += seconds(reference);
+    times.push_back(seconds(ours));
+    state.SetIterationTime(times.back());
+    referenceTimes.push_back(seconds(reference));
   }
-  state.counters["reference"] = 1e3 * referenceSum / static_cast<double>(state.iterations());
-  state.counters["ratio"] = sum / referenceSum;
+  state.counters["ms"] = 1e3 * median(times);
+  state.counters["reference"] = 1e3 * median(referenceTimes);
+  state.counters["ratio"] = median(times) / median(referenceTimes);
 }
 
 }  // namespace lensbench
