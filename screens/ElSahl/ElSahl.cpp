@@ -235,8 +235,12 @@ void ElSahl::parallilidesmifotos_Click() {
       context_.dialogs.InputBox(QStringLiteral("DIRECTION IN  RESPECT TO HORIZONTAL"),
                                 QStringLiteral("Angle in °"), QStringLiteral("0"));
   if (!answer || !hasLensOr(lensRefused)) return;
+  drawBundle(numberFromAnswer(*answer));
+}
+
+void ElSahl::drawBundle(double degrees) {
   const Variant pi = 4 * Atn(1);
-  const Variant m = Tan(pi * (numberFromAnswer(*answer) / 180));
+  const Variant m = Tan(pi * (degrees / 180));
   clear();
   drawOver(asked(protosfakos::Desmi{m.value()}));
 }

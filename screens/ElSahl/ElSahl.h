@@ -28,6 +28,8 @@ class ElSahl : public DrawingScreen {
   void prepare();
   // Clears and draws the fan of the shared source through the shared lens.
   void drawFan();
+  // Clears and draws a bundle at an angle with the horizontal, degrees, through the shared lens.
+  void drawBundle(double degrees);
   // Both edges of the diaphragm at this abscissa, open from -10 to 10, user units.
   void strokesAt(double x);
   light::Diafragma diafragma() const;
