@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <system_error>
 
 namespace lensbench {
@@ -77,7 +78,8 @@ std::string formatShort(const Variant& v) {
   return digits;
 }
 
-std::optional<double> numberFromText(std::string_view text) {
+NumberRead readNumber(std::string_view text) {
+  using Kind = NumberRead::Kind;
   std::string digits(text);
   std::replace(digits.begin(), digits.end(), ',', '.');
   // The reader takes no plus sign, but words such as "inf"; here it is the other way round.
@@ -89,10 +91,17 @@ std::optional<double> numberFromText(std::string_view text) {
   const auto read = std::from_chars(digits.data(), end, value);
   if (read.ptr != end || read.ec == std::errc::invalid_argument) return {};
   if (read.ec == std::errc::result_out_of_range) {
-    if (isLarge(digits)) throwOverflow();
-    return 0.0;
+    if (!isLarge(digits)) return {Kind::Number, 0.0};
+    const double most = std::numeric_limits<double>::max();
+    return {Kind::TooLarge, digits.starts_with('-') ? -most : most};
   }
-  return value;
+  return {Kind::Number, value};
+}
+
+std::optional<double> numberFromText(std::string_view text) {
+  const NumberRead read = readNumber(text);
+  if (read.kind == NumberRead::Kind::TooLarge) throwOverflow();
+  return read.kind == NumberRead::Kind::Number ? std::optional(read.value) : std::nullopt;
 }
 
 }  // namespace lensbench

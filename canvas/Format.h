@@ -22,8 +22,15 @@ std::string formatDecimals(const Variant& v, int decimals);
 // A whole number as such, and others with two decimals.
 std::string formatShort(const Variant& v);
 
-// A text as a number, with a point or a comma; nothing when it is none, as the empty text is. Too
-// large is Overflow (6).
+// What a text is when it is read as a number, with a point or a comma.
+struct NumberRead {
+  enum class Kind { None, Number, TooLarge };  // None: no number, as the empty text is
+  Kind kind = Kind::None;
+  double value = 0.0;  // of one too large: the largest number there is, with its sign
+};
+NumberRead readNumber(std::string_view text);
+
+// The number that a text is; nothing when it is none. Too large is Overflow (6).
 std::optional<double> numberFromText(std::string_view text);
 
 }  // namespace lensbench

@@ -1,6 +1,7 @@
 #include "screens/Answers.h"
 
 #include "canvas/Format.h"
+#include "canvas/qt/Typed.h"
 
 namespace lensbench {
 namespace {
@@ -18,10 +19,7 @@ QString notANumber(const QString& answer) {
 }  // namespace
 
 double numberFromAnswer(const QString& answer) {
-  QString number = answer.trimmed();
-  if (number.endsWith(QStringLiteral("°"))) number = number.chopped(1).trimmed();
-  number.replace(QStringLiteral("−"), QStringLiteral("-"));
-  const auto value = numberFromText(number.toStdString());
+  const auto value = numberFromText(numberTyped(answer));
   if (value) return *value;
   throw RuntimeError(RuntimeError::Code::TypeMismatch, notANumber(answer).toStdString());
 }

@@ -1,9 +1,8 @@
 #include "canvas/qt/Control.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include <QGuiApplication>
+
+#include "canvas/qt/Contrast.h"
 
 namespace lensbench {
 
@@ -15,20 +14,9 @@ QRect inPixels(const Place& place) {
 
 namespace {
 
-// Share of white light that a colour gives back, as the eye weighs it: 0 black, 1 white.
-double luminance(const QColor& colour) {
-  const auto linear = [](double v) {
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-
 bool highContrast(const QPalette& colours) {
-  const double window = luminance(colours.color(QPalette::Window));
-  const double text = luminance(colours.color(QPalette::WindowText));
   // Black and white are 21 to 1, black and yellow 19.6; the ordinary themes stay below 18.5.
-  return (std::max(window, text) + 0.05) / (std::min(window, text) + 0.05) > 19.0;
+  return contrast(colours.color(QPalette::Window), colours.color(QPalette::WindowText)) > 19.0;
 }
 
 }  // namespace
@@ -48,6 +36,10 @@ QPalette coloursOn(const QColor& background) {
     plate.setColor(group, QPalette::Text, desktop.color(group, QPalette::Window));
   }
   return plate;
+}
+
+QString withWarning(const QString& toolTip, const QString& warning) {
+  return toolTip.isEmpty() ? warning : toolTip + QStringLiteral("\n\n") + warning;
 }
 
 void describe(QWidget& widget, const QString& accessibleName, const QString& toolTip) {

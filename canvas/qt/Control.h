@@ -24,6 +24,9 @@ QRect inPixels(const Place& place);
 void describe(QWidget& widget, const QString& accessibleName, const QString& toolTip);
 void describe(QAction& action, const QString& accessibleName, const QString& toolTip);
 
+// A tool tip with what is to be feared, each in Greek and English, a line each.
+QString withWarning(const QString& toolTip, const QString& warning);
+
 // A toolkit widget as a control of a form.
 template <typename Widget>
 class Control : public Widget {

@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include "canvas/qt/AnswerLine.h"
 #include "canvas/qt/Clock.h"
 
 namespace lensbench {
@@ -50,10 +51,12 @@ void QtDialogs::MsgBox(const QString& text, const QString& title) {
 std::optional<QString> QtDialogs::InputBox(const QString& prompt, const QString& title,
                                            const QString& defaultAnswer) {
   const TickHold hold(clock_);
-  bool accepted = false;
-  const QString answer = QInputDialog::getText(QApplication::activeWindow(), titleOr(title), prompt,
-                                               QLineEdit::Normal, defaultAnswer, &accepted);
-  return accepted ? std::optional(answer) : std::nullopt;
+  QInputDialog box(QApplication::activeWindow());
+  box.setWindowTitle(titleOr(title));
+  box.setLabelText(prompt);
+  box.setTextValue(defaultAnswer);
+  AnswerLine::addTo(box);
+  return box.exec() == QDialog::Accepted ? std::optional(box.textValue()) : std::nullopt;
 }
 
 std::optional<QString> QtDialogs::SaveBox(const QString& title, const QString& proposed,

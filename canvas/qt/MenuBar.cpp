@@ -3,10 +3,14 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QShortcut>
 #include <QStyleOptionMenuItem>
 #include <QToolTip>
+
+#include "canvas/qt/Contrast.h"
+#include "canvas/qt/MenuEntry.h"
 
 namespace lensbench {
 namespace {
@@ -78,6 +82,17 @@ void MenuBar::initStyleOption(QStyleOptionMenuItem* option, const QAction* actio
   if (!action->isCheckable()) return;
   option->checkType = QStyleOptionMenuItem::NonExclusive;
   option->checked = action->isChecked();
+}
+
+void MenuBar::paintEvent(QPaintEvent* event) {
+  QMenuBar::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(QPen(warningOn(palette().color(QPalette::Window)), 2));
+  for (QAction* action : actions()) {
+    const auto* entry = qobject_cast<MenuEntry*>(action);
+    if (entry == nullptr || !entry->warned()) continue;
+    painter.drawRect(actionGeometry(action).adjusted(1, 1, -1, -1));
+  }
 }
 
 bool MenuBar::event(QEvent* event) {

@@ -16,6 +16,7 @@ class MenuBar : public QMenuBar {
 
  protected:
   void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
+  void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 

@@ -2,7 +2,7 @@
 
 #include <QAccessible>
 
-#include "canvas/qt/Form.h"
+#include "canvas/qt/Control.h"
 
 namespace lensbench {
 
@@ -27,6 +27,15 @@ void MenuEntry::Checked(bool checked) {
   changed.checked = true;
   QAccessibleStateChangeEvent event(this, changed);
   QAccessible::updateAccessibility(&event);
+}
+
+void MenuEntry::Warning(const QString& words) {
+  if (words.isEmpty() && !warned_) return;
+  if (!warned_) calm_ = toolTip();
+  warned_ = !words.isEmpty();
+  const QString tip = warned_ ? withWarning(calm_, words) : calm_;
+  setToolTip(tip);
+  setWhatsThis(tip);
 }
 
 }  // namespace lensbench

@@ -19,6 +19,10 @@ class MenuEntry : public QAction {
   // that carries a mark and keeps room for it.
   bool Checked() const noexcept { return checked_; }
   void Checked(bool checked);
+  // What choosing it now brings about, Greek line and English line, said below the tool tip; while
+  // it is not empty the entry has an edge in the colour of warnings.
+  void Warning(const QString& words);
+  bool warned() const noexcept { return warned_; }
 
  signals:
   void Click();
@@ -26,6 +30,8 @@ class MenuEntry : public QAction {
  private:
   QString caption_;
   bool checked_ = false;
+  bool warned_ = false;
+  QString calm_;  // the tool tip without the warning
 };
 
 }  // namespace lensbench

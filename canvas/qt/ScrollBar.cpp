@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 
+#include "canvas/qt/Contrast.h"
+
 namespace lensbench {
 
 ScrollBar::ScrollBar(Form& form, const QString& name, Qt::Orientation orientation,
@@ -23,6 +25,18 @@ void ScrollBar::range(int least, int most, int largeStep, int value) {
   Value(value);
 }
 
+void ScrollBar::Warning(const QString& words, bool oneStepAway) {
+  if (!warned_) calm_ = toolTip();
+  if (warned_ || !words.isEmpty()) {
+    const QString tip = words.isEmpty() ? calm_ : withWarning(calm_, words);
+    setToolTip(tip);
+    setAccessibleDescription(tip);
+  }
+  warned_ = !words.isEmpty();
+  oneStepAway_ = oneStepAway;
+  update();
+}
+
 void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
   QScrollBar::initStyleOption(option);
   // The styles draw the arrows in the colour of text on the background, which here is the form's
@@ -32,11 +46,16 @@ void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
 
 void ScrollBar::paintEvent(QPaintEvent* event) {
   QScrollBar::paintEvent(event);
-  if (!hasFocus()) return;
-  // The styles show no focus on a scroll bar, yet who works it by keyboard must see it.
   QPainter painter(this);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  QRect free = rect();
+  const auto edge = [&](const QColor& colour) {
+    painter.setPen(QPen(colour, 2));
+    painter.drawRect(free.adjusted(1, 1, -1, -1));
+    free.adjust(2, 2, -2, -2);
+  };
+  if (oneStepAway_) edge(warningOn(palette().color(QPalette::Window)));
+  // The styles show no focus on a scroll bar, yet who works it by keyboard must see it.
+  if (hasFocus()) edge(palette().color(QPalette::Highlight));
 }
 
 void ScrollBar::focusInEvent(QFocusEvent* event) {

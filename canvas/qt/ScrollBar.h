@@ -27,6 +27,10 @@ class ScrollBar : public Control<QScrollBar> {
   void SmallChange(int step) { setSingleStep(step); }
   // The design data of a bar at once; an arrow steps by 1.
   void range(int least, int most, int largeStep, int value);
+  // What moving it can bring about, Greek line and English line, said below the tool tip; nothing
+  // is said of an empty one. One step away from it the bar has an edge in the colour of warnings.
+  void Warning(const QString& words, bool oneStepAway);
+  bool oneStepAway() const { return oneStepAway_; }
 
  signals:
   // A new value, by hand (also while dragging) or from code.
@@ -37,6 +41,11 @@ class ScrollBar : public Control<QScrollBar> {
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  QString calm_;  // the tool tip without the warning
+  bool warned_ = false;
+  bool oneStepAway_ = false;
 };
 
 }  // namespace lensbench

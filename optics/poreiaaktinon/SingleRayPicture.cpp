@@ -63,14 +63,20 @@ void drawLayer(Canvas& canvas, const Ray& ray) {
   }
 }
 
+NoOutline noOutline(const Variant& R1, const Variant& R2, const Variant& xc2) {
+  if (R1 == 0 || R2 == 0) return NoOutline::PointCircle;
+  return xc2 == 0 && R1 == R2 ? NoOutline::SameCircle : NoOutline::None;
+}
+
 Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
                   const Variant& deiktis) {
-  if (R1 == 0 || R2 == 0) {
+  const NoOutline reason = noOutline(R1, R2, xc2);
+  if (reason == NoOutline::PointCircle) {
     divisionByZero(
         "Με ακτίνα 0 ο κύκλος γίνεται σημείο και ο φακός δεν έχει όψη. "
         "With a radius of 0 the circle is a point, and the lens has no face.");
   }
-  if (xc2 == 0 && R1 == R2) {
+  if (reason == NoOutline::SameCircle) {
     divisionByZero(
         "Οι δύο κύκλοι συμπίπτουν και δεν τέμνονται σε δύο σημεία. "
         "The two circles are one and the same, and do not cross at two points.");

@@ -29,6 +29,9 @@ struct Outline {
 
   friend bool operator==(const Outline&, const Outline&) = default;
 };
+// Why circles have no outline; circle 2 stands at xc2, circle 1 at the origin.
+enum class NoOutline { None, PointCircle, SameCircle };
+NoOutline noOutline(const Variant& R1, const Variant& R2, const Variant& xc2);
 // Division by zero (11), in words, for a radius of 0 and for circles that are one and the same.
 // Kept on purpose: the half-angles are arc sines, which never exceed a right angle, so a face
 // of more than half a circle is outlined too short.

@@ -4,6 +4,7 @@
 
 #include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
+#include "canvas/qt/ValueBox.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "screens/Handlers.h"
 #include "screens/Moves.h"
@@ -29,6 +30,8 @@ eisagogiko::eisagogiko(const Context& context) : Form(design), context_(context)
   setAccessibleName("Κατάλογος φακών · Lens menu");
   connectHandlers();
   Form_Load();
+  // The label shows hundredths, which are the steps of the bar.
+  new ValueBox(valueOfBar(controls_.Label1, controls_.deiktissahl, 0.01));
 }
 
 void eisagogiko::connectHandlers() {

@@ -36,6 +36,7 @@ kelmo::kelmo(const Context& context)
   canvas().FontSize(7.5);
   connectHandlers();
   Form_Load();
+  connectBoxes();
 }
 
 void kelmo::connectHandlers() {

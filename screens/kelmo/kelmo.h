@@ -127,6 +127,12 @@ class kelmo : public DrawingScreen {
   void placeDiaphragm(const poreiaaktinon::Diafragma& diafragma);
   // The sliders go to the value nearest to where the blades stand, without moving them.
   void slidersFollowBlades();
+  // The diaphragm as one lets it go there, sliders and picture with it.
+  void moveDiaphragm(const poreiaaktinon::Diafragma& diafragma);
+  // What wheel and keyboard do in the boxes.
+  void connectBoxes();
+  // Has the entry of the waves in time say that there are too many rays for it.
+  void warnOfWaves();
 
   // A thing that the mouse holds from a press to the release.
   struct Drag {

@@ -93,6 +93,7 @@ void kelmo::restore(const KelmoState& state) {
   ticks_ = state.ticks;
   wiped_ = state.wiped;
   showStanding(fittedTo(edges(), state.standing));
+  warnOfWaves();
 }
 
 void kelmo::showStanding(poreiaaktinon::Standing standing) {

@@ -31,6 +31,7 @@ Point moniaktina::aim() const {
 }
 
 std::vector<Thing> moniaktina::things() const {
+  const QString feared = warning(aim());
   const Point corner{controls_.fos.Left(), controls_.fos.Top()};
   return {
       // A press puts the corner of the mark, not its middle, where the mouse is.
@@ -43,7 +44,7 @@ std::vector<Thing> moniaktina::things() const {
        {}},
       {Aim,
        "Στόχος της ακτίνας · Aim of the ray",
-       aimWords(aim()),
+       feared.isEmpty() ? aimWords(aim()) : feared,
        aim(),
        ringOutline(canvas().mapping(), aim(), aimRing),
        Qt::ArrowCursor,

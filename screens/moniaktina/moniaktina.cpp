@@ -46,6 +46,7 @@ moniaktina::moniaktina(const Context& context) : DrawingScreen(design, context),
       "The diaphragm of the spherical lenses stops it while it is closed.");
   connectHandlers();
   Form_Load();
+  connectBoxes();
 }
 
 void moniaktina::connectHandlers() {
@@ -148,11 +149,14 @@ void moniaktina::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   controls_.fos.Top(Y);
   controls_.sourceMark.follow(controls_.source());
   controls_.aim.between(controls_.source(), {X, Y});
+  warnOfAim({X, Y});
   controls_.aim.Visible(true);
 }
 
 void moniaktina::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
-  if (controls_.aim.Visible()) controls_.aim.between(controls_.source(), {X, Y});
+  if (!controls_.aim.Visible()) return;
+  controls_.aim.between(controls_.source(), {X, Y});
+  warnOfAim({X, Y});
 }
 
 void moniaktina::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {

@@ -51,6 +51,10 @@ class moniaktina : public DrawingScreen {
   bool leaveDrag() override;
   void enter(int thing) override;
 
+  // Why a ray that is aimed there should not be let go: a pixel to either side, exactly above or
+  // below the source, its slope is not defined. Greek line and English line, empty elsewhere.
+  QString warning(Point aim) const;
+
   // Handlers, named after control and event.
   void Form_Load();
   void Form_MouseDown(int Button, int Shift, double X, double Y);
@@ -83,6 +87,16 @@ class moniaktina : public DrawingScreen {
   bool sendAgain(const std::optional<Point>& aim);
   // While following, the ray that stands on the picture is sent again; false where none is.
   bool followValues();
+
+  // What wheel and keyboard do in the boxes.
+  void connectBoxes();
+  // Why the lens has no outline with another value of one bar.
+  poreiaaktinon::single::NoOutline withRadius1(int R1) const;
+  poreiaaktinon::single::NoOutline withRadius2(int R2) const;
+  poreiaaktinon::single::NoOutline withCentre(int centre) const;
+  // Has the bars say which of their values end the program, and the line of the aim where it does.
+  void warnOfLens();
+  void warnOfAim(Point aim);
 
   MoniaktinaControls controls_;
   Easel<poreiaaktinon::single::Shown> easel_{*this};

@@ -70,6 +70,7 @@ void moniaktina::restore(const MoniaktinaState& state) {
   }
   aimed_ = state.aim;
   easel_.show(single::fittedTo(edges, state.shown));
+  warnOfLens();
 }
 
 bool moniaktina::sendAgain(const std::optional<Point>& aim) {
