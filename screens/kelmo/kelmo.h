@@ -165,13 +165,15 @@ class kelmo : public DrawingScreen {
   void prepareWavesInTime();
   // Sends rays over what is there; they are the set of moving waves, unless they are too many.
   void sendRays(const poreiaaktinon::Rays& rays);
-  void startWaves(Timer& own, Timer& other, const poreiaaktinon::Rays& rays);
+  void startWaves(const poreiaaktinon::Rays& rays);
   void waveTick(Timer& timer, MenuEntry& entry);
   // The fronts of the present step; the white scene under them follows the controls.
   void showFronts();
   bool showsWaveScene() const;
   // True while a timer that a wave entry started moves the waves on their white scene.
   bool running() const;
+  // True in a run that stands still until it goes on; its timer ticks all the same.
+  bool paused() const;
   void endRun();
 
   KelmoControls controls_;

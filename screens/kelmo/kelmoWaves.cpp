@@ -90,27 +90,27 @@ void kelmo::drawWaveScene() {
   add(WaveScene{fakos(), n()});
 }
 
-void kelmo::parallilakymata_Click() {
-  startWaves(controls_.Timer2, controls_.Timer1, Desmi{gonia.value(), controls_.desmi1.Value()});
-  controls_.parallilakymata.Checked(true);
-  controls_.kymatachronika.Checked(false);
-}
+void kelmo::parallilakymata_Click() { startWaves(Desmi{gonia.value(), controls_.desmi1.Value()}); }
 
 void kelmo::kymatachronika_Click() {
   poreiaaktinon::requireRoomFor(static_cast<std::size_t>(poreiaaktinon::rayCount(vima())));
-  startWaves(controls_.Timer1, controls_.Timer2, Fan{pigi(), vima()});
-  controls_.kymatachronika.Checked(true);
-  controls_.parallilakymata.Checked(false);
+  startWaves(Fan{pigi(), vima()});
 }
 
-void kelmo::startWaves(Timer& own, Timer& other, const poreiaaktinon::Rays& rays) {
+void kelmo::startWaves(const poreiaaktinon::Rays& rays) {
+  const bool plane = std::holds_alternative<Desmi>(rays);
+  Timer& own = plane ? controls_.Timer2 : controls_.Timer1;
+  Timer& other = plane ? controls_.Timer1 : controls_.Timer2;
   other.Interval(2000);
   drawWaveScene();
   set_ = poreiaaktinon::send(bench(), rays, edges());
   ticks_ = 0;
+  context_.shared.paused = false;
   other.Enabled(false);
   own.Interval(runningInterval);
   own.Enabled(true);
+  controls_.parallilakymata.Checked(plane);
+  controls_.kymatachronika.Checked(!plane);
 }
 
 void kelmo::Timer1_Timer() { waveTick(controls_.Timer1, controls_.kymatachronika); }
@@ -118,6 +118,7 @@ void kelmo::Timer1_Timer() { waveTick(controls_.Timer1, controls_.kymatachronika
 void kelmo::Timer2_Timer() { waveTick(controls_.Timer2, controls_.parallilakymata); }
 
 void kelmo::waveTick(Timer& timer, MenuEntry& entry) {
+  if (paused()) return;
   const int elapsed = timer.Interval() * ticks_;
   ++ticks_;
   if (elapsed > longestRun) {
@@ -127,6 +128,29 @@ void kelmo::waveTick(Timer& timer, MenuEntry& entry) {
     return;
   }
   if (ticks_ <= lastDrawnStep && set_) showFronts();
+}
+
+bool kelmo::paused() const { return context_.shared.paused && running(); }
+
+bool kelmo::pauseWaves() {
+  if (!running()) return false;
+  context_.shared.paused = !context_.shared.paused;
+  return true;
+}
+
+bool kelmo::stepWaves(int steps) {
+  if (!paused()) return false;
+  // Since the last step that was drawn the waves have stood still.
+  ticks_ = std::clamp(std::min(ticks_, lastDrawnStep) + steps, 0, lastDrawnStep);
+  showFronts();
+  return true;
+}
+
+bool kelmo::restartWaves() {
+  if (!set_ || !showsWaveScene()) return false;
+  // Copied, because a start drops the set.
+  startWaves(poreiaaktinon::Rays(set_->rays));
+  return true;
 }
 
 void kelmo::showFronts() {
