@@ -7,7 +7,9 @@
 #include "canvas/Answer.h"
 #include "canvas/qt/Form.h"
 #include "screens/Context.h"
+#include "screens/Keys.h"
 #include "screens/Thing.h"
+#include "screens/ThingFocus.h"
 
 namespace lensbench {
 
@@ -25,11 +27,34 @@ class DrawingScreen : public Form {
   virtual bool leaveDrag() = 0;
   // The Enter key at a thing: at a source it sends the fan or the ray.
   virtual void enter(int /*thing*/) {}
+  // Waves that move, by hand: to stand still and go on; so many steps forward, or back, while they
+  // stand still; from their start. False, and nothing happens, where there are none to be worked.
+  virtual bool pauseWaves() { return false; }
+  virtual bool stepWaves(int /*steps*/) { return false; }
+  virtual bool restartWaves() { return false; }
+
+  // Where the keyboard is among the things.
+  ThingFocus& thingFocus() noexcept { return thingFocus_; }
 
  protected:
   DrawingScreen(const FormDesign& design, const Context& context);
 
+  void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  // Back to the screen before, as the close box goes.
+  virtual void goBack() { emit CloseBox(); }
+
   const Context context_;
+
+ private:
+  // Does what was asked by a key; false where it means nothing here.
+  bool obey(Command command, int key);
+  // The thing at the keyboard, some units along one of the axes; enters it. False without one.
+  bool moveThing(Point way, double step);
+  bool enterThing();
+  void escape();
+
+  ThingFocus thingFocus_{*this};
 };
 
 }  // namespace lensbench

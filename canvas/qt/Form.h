@@ -71,6 +71,8 @@ class Form : public QMainWindow {
   void addMenuEntry(QAction* entry);
   // Maximised on the primary screen when it is shown.
   void fillDisplay();
+  // Covers the whole display, panels and all; and is again what it was before, maximised or not.
+  void FullScreen(bool on);
 
   QString Caption() const { return caption_; }
   void Caption(const QString& caption);
@@ -136,6 +138,7 @@ class Form : public QMainWindow {
   // Whether it is about as large as the display.
   bool isLarge() const;
   void fillWithoutManager();
+  void settleFullScreen();
 
   DrawingArea* area_;
   QString caption_;
@@ -145,6 +148,7 @@ class Form : public QMainWindow {
   std::optional<QPoint> written_;  // the place of the frame last written
   QMargins frame_;                 // of the window when it was last seen as an ordinary one
   std::optional<QRect> ordinary_;  // of a maximised window, where the toolkit will not know it
+  QRect beforeFull_;               // where it stood when it was to be full screen
   QPoint beforeMove_;              // of an ordinary window, before the last change
   QSize beforeResize_;
   QMetaObject::Connection display_;

@@ -21,6 +21,9 @@ int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerP
 QPoint offset(const QMargins& frame) { return {frame.left(), frame.top()}; }
 QSize grownBy(const QMargins& frame) { return QSize(0, 0).grownBy(frame); }
 
+// By then a window manager that there is has changed the state of a window.
+constexpr int instant = 100;  // ms
+
 }  // namespace
 
 void Form::Show() {
@@ -121,7 +124,6 @@ void Form::stateChanged() {
     ordinary_ = QRect(beforeMove_, beforeResize_);
   }
   // On its way from minimised to maximised a window is an ordinary one for an instant.
-  constexpr int instant = 100;  // ms
   QTimer::singleShot(instant, this, &Form::becomeOrdinary);
 }
 
@@ -142,6 +144,23 @@ void Form::fillDisplay() {
     move(display->availableGeometry().topLeft());
   }
   setWindowState(Qt::WindowMaximized);
+}
+
+void Form::FullScreen(bool on) {
+  if (on == isFullScreen()) return;
+  if (on) beforeFull_ = geometry();
+  setWindowState(windowState() ^ Qt::WindowFullScreen);
+  QTimer::singleShot(instant, this, &Form::settleFullScreen);
+}
+
+// Without a window manager nobody covers the display with a window, nor puts it back.
+void Form::settleFullScreen() {
+  const QRect display = screen()->geometry();
+  if (isFullScreen()) {
+    if (size() != display.size()) setGeometry(display);
+  } else if (geometry() == display && beforeFull_ != display) {
+    setGeometry(beforeFull_);
+  }
 }
 
 // The window manager adds its frame when the window is first mapped. What is not as it was written

@@ -1,5 +1,6 @@
 #include "screens/eisagogiko/eisagogiko.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include "canvas/Format.h"
@@ -7,6 +8,7 @@
 #include "canvas/qt/ValueBox.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "screens/Handlers.h"
+#include "screens/Keys.h"
 #include "screens/Moves.h"
 #include "screens/Shared.h"
 #include "screens/Texts.h"
@@ -91,5 +93,23 @@ void eisagogiko::openLens(bool biconvex) {
 }
 
 void eisagogiko::Command3_Click() { context_.moves.leaveLensMenu(); }
+
+void eisagogiko::keyPressEvent(QKeyEvent* event) {
+  const Key* key = keyOf(*event);
+  if (key == nullptr || event->isAutoRepeat()) return Form::keyPressEvent(event);
+  switch (key->command) {
+    case Command::Help:
+      return context_.moves.help();
+    case Command::Undo:
+      return context_.moves.undo();
+    case Command::Redo:
+      return context_.moves.redo();
+    case Command::Escape:
+      emit CloseBox();
+      return;
+    default:
+      return Form::keyPressEvent(event);
+  }
+}
 
 }  // namespace lensbench

@@ -25,6 +25,9 @@ class eisagogiko : public Form {
   void Command2_Click();
   void Command3_Click();
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void connectHandlers();
   double index() const;

@@ -69,6 +69,9 @@ class kelmo : public DrawingScreen {
   void put(int thing, Point p) override;
   bool leaveDrag() override;
   void enter(int thing) override;
+  bool pauseWaves() override;
+  bool stepWaves(int steps) override;
+  bool restartWaves() override;
 
   // Handlers, named after control and event.
   void Form_Load();
@@ -98,6 +101,10 @@ class kelmo : public DrawingScreen {
   void Timer2_Timer();
 
   Variant gonia;  // angle of the last bundle with the horizontal, radians
+
+ protected:
+  // There is no screen before this one; its close box ends the program, which no key shall do.
+  void goBack() override {}
 
  private:
   void connectHandlers();
