@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "app/Application.h"
+#include "app/Help.h"
 #include "app/Steps.h"
 #include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
@@ -20,6 +21,7 @@ namespace lensbench {
 // The routines that take no screen find theirs here, and make it when they are the first to.
 Screens::Screens(Dialogs& dialogs, Clock& clock, Actions& actions)
     : context_{*this, dialogs, clock, actions, shared_},
+      help_(std::make_unique<Help>()),
       steps_(std::make_unique<Steps>(*this, actions)) {
   poreiaaktinon::connectWorkbench({.canvas = [this]() -> Canvas& { return kelmo().canvas(); },
                                    .bench = [this] { return kelmo().bench(); },
@@ -111,7 +113,7 @@ void Screens::followIndex() {
   if (ElSahl_ && ElSahl_->isVisible()) ElSahl_->followValues();
 }
 
-void Screens::help() {}
+void Screens::help() { help_->open(); }
 
 light::Diafragma Screens::diafragma() { return kelmo().diafragma(); }
 

@@ -9,6 +9,7 @@
 
 namespace lensbench {
 
+class Help;
 class Form;
 class kelmo;
 class moniaktina;
@@ -52,6 +53,7 @@ class Screens : public Moves {
   void restore(const ProgramState& to);
 
   Shared& shared() noexcept { return shared_; }
+  const Help& helpWindow() const noexcept { return *help_; }
 
  private:
   template <typename Screen>
@@ -61,6 +63,7 @@ class Screens : public Moves {
 
   Shared shared_;
   Context context_;
+  std::unique_ptr<Help> help_;
   std::unique_ptr<lensbench::kelmo> kelmo_;
   std::unique_ptr<lensbench::moniaktina> moniaktina_;
   std::unique_ptr<lensbench::eisagogiko> eisagogiko_;

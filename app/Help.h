@@ -1,0 +1,45 @@
+// What the help window says, and of which screen: the keys, and what can be taken on the screen
+// that is in front.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
+
+#include "screens/help/HelpWindow.h"
+
+class QWindow;
+
+namespace lensbench {
+
+class Form;
+
+// The sections for a screen.
+std::vector<HelpSection> helpFor(const Form& screen);
+
+class Help : public QObject {
+ public:
+  Help();
+  ~Help() override;
+
+  // Opens the window for the screen in front, or brings it to the front.
+  void open();
+  // Null until it was opened.
+  const HelpWindow* window() const { return window_.get(); }
+
+ protected:
+  // Of the drawing area in front: what is painted anew may stand elsewhere.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void focusCameTo(const QWindow* window);
+  void tellOf(Form& screen);
+
+  std::unique_ptr<HelpWindow> window_;
+  QPointer<Form> front_;
+  bool stale_ = false;
+};
+
+}  // namespace lensbench

@@ -1,0 +1,102 @@
+#include "screens/help/HelpWindow.h"
+
+#include <algorithm>
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace lensbench {
+namespace {
+
+// Pixels.
+constexpr int narrowest = 280;
+constexpr int frame = 40;  // room for the window's own frame
+constexpr int clear = 24;  // of the sliders at the edges of a screen that it stands on
+
+QString inLines(const QString& words) {
+  return words.toHtmlEscaped().replace('\n', QStringLiteral("<br>"));
+}
+
+QString html(const HelpSection& section) {
+  QString page = QStringLiteral("<h3>%1</h3>").arg(section.heading.toHtmlEscaped());
+  if (!section.lead.isEmpty()) page += QStringLiteral("<p>%1</p>").arg(inLines(section.lead));
+  for (const HelpSection::Row& row : section.rows) {
+    page += QStringLiteral(
+                "<p style='margin-bottom:2px'><b>%1</b></p>"
+                "<p style='margin-top:0; margin-left:16px'>%2</p>")
+                .arg(row.name.toHtmlEscaped(), inLines(row.words));
+  }
+  return page;
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow() : QWidget(nullptr, Qt::Dialog) {
+  setObjectName("help");
+  setWindowTitle(QStringLiteral("Βοήθεια · Help"));
+  setAccessibleName(windowTitle());
+  text_.setObjectName("helpText");
+  text_.setAccessibleName(QStringLiteral("Κείμενο βοήθειας · Help text"));
+  text_.setFrameShape(QFrame::NoFrame);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->addWidget(&text_);
+}
+
+void HelpWindow::show(const std::vector<HelpSection>& sections) {
+  if (sections == sections_) return;
+  // Another screen is read from its beginning.
+  const bool sameScreen = !sections_.empty() && !sections.empty() &&
+                          sections_.front().heading == sections.front().heading;
+  const int place = text_.verticalScrollBar()->value();
+  sections_ = sections;
+  QString page;
+  for (const HelpSection& section : sections_) page += html(section);
+  text_.setHtml(page);
+  text_.verticalScrollBar()->setValue(sameScreen ? place : 0);
+}
+
+void HelpWindow::openBeside(const QWidget& screen) {
+  if (!placed_) placeBeside(screen);
+  placed_ = true;
+  QWidget::show();
+  raise();
+  activateWindow();
+  text_.setFocus();
+}
+
+void HelpWindow::placeBeside(const QWidget& screen) {
+  const QRect room = screen.screen()->availableGeometry();
+  const QRect taken = screen.frameGeometry() & room;
+  const int wanted = std::min(60 * fontMetrics().averageCharWidth(), room.width());
+  const int right = room.right() - taken.right();
+  const int left = taken.left() - room.left();
+  const int beside = std::max(left, right);
+  if (beside >= narrowest) {
+    const int width = std::min(wanted, beside);
+    const int x = right >= left ? taken.right() + 1 : taken.left() - width;
+    setGeometry(x, room.top() + frame, width, std::max(room.height() - 2 * frame, narrowest));
+    return;
+  }
+  const QSize size(wanted, room.height() * 2 / 3);
+  const QPoint corner = room.bottomRight() - QPoint(clear, clear);
+  setGeometry(QRect(corner - QPoint(size.width(), size.height()), size) & room);
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void HelpWindow::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  if (onClose) onClose();
+}
+
+}  // namespace lensbench

@@ -1,0 +1,54 @@
+// The help window: sections of text in Greek and English, beside whatever screen is in front.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QString>
+#include <QTextBrowser>
+#include <QWidget>
+
+namespace lensbench {
+
+// A heading with a line under it, and rows of a name and words. Headings and names are Greek ·
+// English, words a Greek line and an English line; none need be there.
+struct HelpSection {
+  struct Row {
+    QString name;
+    QString words;
+
+    friend bool operator==(const Row&, const Row&) = default;
+  };
+
+  QString heading;
+  QString lead;
+  std::vector<Row> rows;
+
+  friend bool operator==(const HelpSection&, const HelpSection&) = default;
+};
+
+class HelpWindow : public QWidget {
+ public:
+  HelpWindow();
+
+  // Shows these from now on, without leaving the place that is being read.
+  void show(const std::vector<HelpSection>& sections);
+  // In sight: the first time beside that window, where there is room, and otherwise over a part of
+  // it; later where it was left.
+  void openBeside(const QWidget& screen);
+
+  std::function<void()> onClose;  // after it has been closed
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void placeBeside(const QWidget& screen);
+
+  QTextBrowser text_;
+  std::vector<HelpSection> sections_;
+  bool placed_ = false;
+};
+
+}  // namespace lensbench
