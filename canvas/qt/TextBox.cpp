@@ -1,5 +1,6 @@
 #include "canvas/qt/TextBox.h"
 
+#include <QKeyEvent>
 #include <QStyleOptionFrame>
 
 namespace lensbench {
@@ -11,6 +12,18 @@ TextBox::TextBox(Form& form, const QString& name, const Place& place) : Control(
 void TextBox::Text(const QString& text) {
   setText(text);
   setCursorPosition(0);
+}
+
+// The toolkit's box swallows what it can do nothing with: there is nothing to undo, and as a rule
+// nothing selected to copy.
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  const bool idle = *event == QKeySequence::Undo || *event == QKeySequence::Redo ||
+                    (*event == QKeySequence::Copy && !hasSelectedText());
+  if (idle) {
+    event->ignore();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
 }
 
 int TextBox::widthForText(const QString& text) const {

@@ -18,6 +18,9 @@ class TextBox : public Control<QLineEdit> {
   void Text(const QString& text);
   // The width that shows the whole of a text, in pixels.
   int widthForText(const QString& text) const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace lensbench
