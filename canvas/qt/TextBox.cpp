@@ -17,8 +17,8 @@ void TextBox::Text(const QString& text) {
 // The toolkit's box swallows what it can do nothing with: there is nothing to undo, and as a rule
 // nothing selected to copy.
 void TextBox::keyPressEvent(QKeyEvent* event) {
-  const bool idle = *event == QKeySequence::Undo || *event == QKeySequence::Redo ||
-                    (*event == QKeySequence::Copy && !hasSelectedText());
+  const bool idle = event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo) ||
+                    (event->matches(QKeySequence::Copy) && !hasSelectedText());
   if (idle) {
     event->ignore();
   } else {
