@@ -69,13 +69,15 @@ ThingFocus::ThingFocus(DrawingScreen& screen) : screen_(screen) {
 void ThingFocus::open() {
   QWidget& area = *screen_.drawingArea();
   if (area.focusPolicy() != Qt::NoFocus) return;
-  QWidget* last = screen_.previousInFocusChain();
-  while (last != &screen_ && (last->focusPolicy() & Qt::TabFocus) == 0) {
-    last = last->previousInFocusChain();
-  }
   // By the mouse it gets no focus: who works with the mouse keeps the control.
   area.setFocusPolicy(Qt::TabFocus);
-  QWidget::setTabOrder(last, &area);
+  if (screen_.focusWidget() != nullptr) return;
+  // In the toolkit's order the area stands before the controls on it, and would be the first.
+  QWidget* control = area.nextInFocusChain();
+  while (control != &area && (control->focusPolicy() & Qt::TabFocus) == 0) {
+    control = control->nextInFocusChain();
+  }
+  if (control != &area) control->setFocus();
 }
 
 std::optional<Thing> ThingFocus::thing() const {

@@ -39,7 +39,8 @@ class ThingFocus : public QObject {
  public:
   explicit ThingFocus(DrawingScreen& screen);
 
-  // Lets the Tab key come to the drawing area, behind the controls that there are.
+  // Lets the Tab key come to the drawing area, between the last control and the first, which keeps
+  // the focus at start.
   void open();
   // The thing that keys act on; nothing while the drawing area does not have the focus.
   std::optional<Thing> thing() const;

@@ -72,7 +72,7 @@ TEST_F(KelmoKeysTest, ARingStandsAroundTheThingWhileThePictureHasTheFocus) {
   EXPECT_EQ(ring(), nullptr) << "silent until asked";
   for (const Thing& thing : screen.things()) {
     goTo(static_cast<Grab>(thing.id));
-    const QRectF outline = thing.outline.boundingRect();
+    const QRectF outline = thing.outline.boundingRect().adjusted(-1, -1, 1, 1);
     EXPECT_TRUE(ring()->bounds().contains(outline)) << thing.name.toStdString();
     EXPECT_LT(ring()->bounds().width(), outline.width() + 30.0);
   }
@@ -164,6 +164,7 @@ TEST_F(KelmoKeysTest, WhatKeysDoIsWhatADragDoes) {
       {Grab::LeftEdge, Qt::Key_Right, {50.0, 0.0}, {60.0, 0.0}},
       {Grab::RightEdge, Qt::Key_Left, {-70.0, 0.0}, {-80.0, 0.0}},
   };
+  putBack();
   for (const Case& once : cases) {
     SCOPED_TRACE(static_cast<int>(once.thing));
     goTo(once.thing);
