@@ -9,8 +9,8 @@
 
 namespace lensbench {
 
-class Help;
 class Form;
+class Help;
 class kelmo;
 class moniaktina;
 class eisagogiko;

@@ -27,6 +27,9 @@ class DrawingScreen : public Form {
   virtual bool leaveDrag() = 0;
   // The Enter key at a thing: at a source it sends the fan or the ray.
   virtual void enter(int /*thing*/) {}
+  // What stands on the picture, or stood there before it was wiped, once more with the values of
+  // the moment.
+  virtual void repeat() = 0;
   // Waves that move, by hand: to stand still and go on; so many steps forward, or back, while they
   // stand still; from their start. False, and nothing happens, where there are none to be worked.
   virtual bool pauseWaves() { return false; }

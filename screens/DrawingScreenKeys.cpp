@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "screens/DrawingScreen.h"
+#include "screens/Export.h"
 #include "screens/Handlers.h"
 #include "screens/Moves.h"
 
@@ -71,6 +72,23 @@ bool DrawingScreen::obey(Command command, int key) {
     case Command::FullScreen:
       FullScreen(!isFullScreen());
       return true;
+    case Command::Follow:
+      context_.moves.toggleFollow();
+      return true;
+    case Command::Repeat: {
+      const ActionScope scope(context_.actions, *this);
+      repeat();
+      return true;
+    }
+    case Command::Copy:
+      copyPicture(*this);
+      return true;
+    case Command::Save:
+      savePicture(*this, context_.dialogs);
+      return true;
+    case Command::Print:
+      printPicture(*this, context_.dialogs);
+      return true;
     case Command::Move:
       return moveThing(alongArrow(key), 1.0);
     case Command::MoveFar:
@@ -87,9 +105,11 @@ bool DrawingScreen::obey(Command command, int key) {
       return stepWaves(-1);
     case Command::RestartWaves:
       return restartWaves();
-    default:
-      return false;
+    case Command::NextThing:
+    case Command::PreviousThing:
+      break;  // before the toolkit takes the Tab key
   }
+  return false;
 }
 
 bool DrawingScreen::moveThing(Point way, double step) {

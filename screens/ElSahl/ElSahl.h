@@ -41,7 +41,7 @@ class ElSahl : public DrawingScreen {
   void restore(const SahlState& state);
   // What stands on the picture once more, with the shared lens and source, and with the diaphragm
   // and the options as they are.
-  void repeat();
+  void repeat() override;
   // The same while following; false where nothing follows.
   bool followValues();
 

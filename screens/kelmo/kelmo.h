@@ -60,7 +60,7 @@ class kelmo : public DrawingScreen {
   void restore(const KelmoState& state);
   // What stands on the picture, or stood there before it was wiped, once more with the values of
   // the controls.
-  void repeat();
+  void repeat() override;
 
   // What can be taken; the ids are those of Grab.
   std::vector<Thing> things() const override;

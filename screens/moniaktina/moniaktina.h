@@ -41,7 +41,7 @@ class moniaktina : public DrawingScreen {
   void restore(const MoniaktinaState& state);
   // The ray that stands on the picture, or the last one that was sent by hand, once more with the
   // values of the controls.
-  void repeat();
+  void repeat() override;
 
   std::vector<Thing> things() const override;
   // Nothing: wherever the mouse is pressed it places the source anew.
