@@ -90,10 +90,12 @@ void Help::open() {
 }
 
 void Help::focusCameTo(const QWindow* window) {
-  if (!window_ || !window_->isVisible()) return;
+  if (window == nullptr || !window_ || !window_->isVisible()) return;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     auto* form = qobject_cast<Form*>(widget);
-    if (form != nullptr && window != nullptr && form->windowHandle() == window) tellOf(*form);
+    if (form == nullptr || form == front_ || form->windowHandle() != window) continue;
+    tellOf(*form);
+    break;
   }
 }
 
@@ -102,6 +104,7 @@ void Help::tellOf(Form& screen) {
   front_ = &screen;
   screen.drawingArea()->installEventFilter(this);
   window_->show(helpFor(screen));
+  window_->stayAbove(screen);
 }
 
 bool Help::eventFilter(QObject* /*watched*/, QEvent* event) {

@@ -13,9 +13,9 @@
 namespace lensbench {
 namespace {
 
-constexpr double gap = 5.0;        // between a thing and its ring, pixels
+constexpr double gap = 7.0;        // between a thing and its ring, pixels
 constexpr double lineWidth = 2.0;  // of the ring, pixels
-constexpr double casing = 1.5;     // of white on both sides of the line, pixels
+constexpr double casing = 1.0;     // of white on both sides of the line, pixels
 
 // How far a stretch has to go to lie within 0..length.
 double inward(double least, double most, double length) {
@@ -23,12 +23,21 @@ double inward(double least, double most, double length) {
   return least < 0.0 ? -least : std::min(0.0, length - most);
 }
 
+// The outer lines of a band around the outline.
 QPainterPath ringAround(const QPainterPath& outline) {
   QPainterPathStroker stroker;
   stroker.setWidth(2.0 * gap);
   stroker.setCapStyle(Qt::RoundCap);
   stroker.setJoinStyle(Qt::RoundJoin);
-  return stroker.createStroke(outline).united(outline);
+  const QList<QPolygonF> lines = stroker.createStroke(outline).simplified().toSubpathPolygons();
+  QPainterPath ring;
+  for (const QPolygonF& line : lines) {
+    const bool within = std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& other) {
+      return &other != &line && other.boundingRect().contains(line.boundingRect());
+    });
+    if (!within) ring.addPolygon(line);
+  }
+  return ring;
 }
 
 }  // namespace

@@ -7,14 +7,16 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace lensbench {
 namespace {
 
 // Pixels.
 constexpr int narrowest = 280;
-constexpr int frame = 40;  // room for the window's own frame
-constexpr int clear = 24;  // of the sliders at the edges of a screen that it stands on
+constexpr int margin = 12;  // around the text
+constexpr int frame = 40;   // room for the window's own frame
+constexpr int clear = 24;   // of the sliders at the edges of a screen that it stands on
 
 QString inLines(const QString& words) {
   return words.toHtmlEscaped().replace('\n', QStringLiteral("<br>"));
@@ -41,6 +43,7 @@ HelpWindow::HelpWindow() : QWidget(nullptr, Qt::Dialog) {
   text_.setObjectName("helpText");
   text_.setAccessibleName(QStringLiteral("Κείμενο βοήθειας · Help text"));
   text_.setFrameShape(QFrame::NoFrame);
+  text_.document()->setDocumentMargin(margin);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(&text_);
@@ -57,6 +60,21 @@ void HelpWindow::show(const std::vector<HelpSection>& sections) {
   for (const HelpSection& section : sections_) page += html(section);
   text_.setHtml(page);
   text_.verticalScrollBar()->setValue(sameScreen ? place : 0);
+}
+
+void HelpWindow::stayAbove(const QWidget& screen) {
+  winId();  // from here on there is a window handle
+  if (windowHandle()->transientParent() == screen.windowHandle()) return;
+  const bool seen = isVisible();
+  const QRect place = geometry();
+  // A window manager is told when a window is shown.
+  hide();
+  windowHandle()->setTransientParent(screen.windowHandle());
+  if (!seen) return;
+  setGeometry(place);
+  setAttribute(Qt::WA_ShowWithoutActivating, true);
+  QWidget::show();
+  setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 void HelpWindow::openBeside(const QWidget& screen) {

@@ -33,6 +33,8 @@ class HelpWindow : public QWidget {
 
   // Shows these from now on, without leaving the place that is being read.
   void show(const std::vector<HelpSection>& sections);
+  // Keeps it above that window from now on, even when keys go there.
+  void stayAbove(const QWidget& screen);
   // In sight: the first time beside that window, where there is room, and otherwise over a part of
   // it; later where it was left.
   void openBeside(const QWidget& screen);
