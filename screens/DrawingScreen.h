@@ -55,6 +55,7 @@ class DrawingScreen : public Form {
   // The thing at the keyboard, some units along one of the axes; enters it. False without one.
   bool moveThing(Point way, double step);
   bool enterThing();
+  bool stepByHand(int steps);
   void escape();
 
   ThingFocus thingFocus_{*this};

@@ -100,11 +100,13 @@ bool DrawingScreen::obey(Command command, int key) {
     case Command::PauseWaves:
       return pauseWaves();
     case Command::StepForward:
-      return stepWaves(1);
+      return stepByHand(1);
     case Command::StepBack:
-      return stepWaves(-1);
-    case Command::RestartWaves:
+      return stepByHand(-1);
+    case Command::RestartWaves: {
+      const ActionScope scope(context_.actions, *this);
       return restartWaves();
+    }
     case Command::NextThing:
     case Command::PreviousThing:
       break;  // before the toolkit takes the Tab key
@@ -131,6 +133,12 @@ bool DrawingScreen::enterThing() {
   const ActionScope scope(context_.actions, *this);
   enter(thing->id);
   return true;
+}
+
+// Like the ticks in whose place it comes, it is no step of the history.
+bool DrawingScreen::stepByHand(int steps) {
+  const ActionScope scope(context_.actions, *this, By::Itself);
+  return stepWaves(steps);
 }
 
 void DrawingScreen::escape() {
