@@ -1,11 +1,12 @@
 // The spherical optics beside the bare vector form of the same refractions: one ray through both
-// faces, the largest fan, and its wave points.
+// faces, the largest fan, its wave points, and what it answers.
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <vector>
 
 #include "bench/Compare.h"
 #include "optics/light/Vector.h"
+#include "optics/poreiaaktinon/Ask.h"
 #include "optics/poreiaaktinon/Fronts.h"
 #include "optics/poreiaaktinon/Rays.h"
 
@@ -92,6 +93,30 @@ void frontOfABundle(benchmark::State& state) {
   }
 }
 BENCHMARK(frontOfABundle)->Unit(benchmark::kMicrosecond);
+
+// Asking all over the drawing area, within 4 units: the largest fan with its wave points, and the
+// moving fronts of as many rays.
+void ask(benchmark::State& state, const Shown& shown) {
+  Point p{edges.left, edges.lower};
+  for ([[maybe_unused]] auto iteration : state) {
+    benchmark::DoNotOptimize(ask(shown, p, 4.0));
+    p.x += 37.0;
+    if (p.x > edges.right) p = {edges.left, p.y + 31.0};
+    if (p.y > edges.upper) p.y = edges.lower;
+  }
+}
+Sent sentLargestFan() {
+  return send(bench, Fan{{-200.0, 30.0}, 4.0 * std::atan(1.0) * 5.0 / 150.0}, edges);
+}
+void askInTheLargestFan(benchmark::State& state) {
+  const LensScene scene{startLens, 1.5, {-200.0, 30.0}};
+  ask(state, Shown{{scene, Light{sentLargestFan(), {true, true}}}});
+}
+BENCHMARK(askInTheLargestFan)->Unit(benchmark::kMicrosecond);
+void askAmongMovingFronts(benchmark::State& state) {
+  ask(state, Shown{{WaveScene{startLens, 1.5}, Fronts{sentLargestFan(), 150}}});
+}
+BENCHMARK(askAmongMovingFronts)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace lensbench::poreiaaktinon
