@@ -1,6 +1,9 @@
+#include <QLocale>
+
 #include "app/Application.h"
 #include "app/Screens.h"
 #include "app/Signals.h"
+#include "app/StandardWords.h"
 #include "app/Surroundings.h"
 #include "canvas/qt/Clock.h"
 #include "canvas/qt/Dialogs.h"
@@ -13,6 +16,7 @@ int main(int argc, char** argv) {
   lensbench::Actions actions;
   lensbench::Application application(argc, argv, dialogs, actions);
   lensbench::needGreekFont();
+  lensbench::translateStandardWords(application, QLocale::system());
   lensbench::endBySignals(application);
   lensbench::Screens screens(dialogs, clock, actions);
   application.run([&screens] { lensbench::Main(screens); });

@@ -10,9 +10,10 @@ compositor_packages=(weston)
 # A display that exists in memory only, a window manager on it, hands and a camera.
 virtual_display_packages=(xvfb openbox xdotool imagemagick)
 # The second row is another window manager, and what asks and tells windows and displays more than a
-# hand can; the last two look into the program and its installation.
+# hand can; the third is what screen readers stand on; the last two look into the program and its installation.
 test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev
   icewm wmctrl x11-utils x11-xserver-utils
+  at-spi2-core dbus python3-pyatspi
   binutils strace
   desktop-file-utils appstream librsvg2-bin poppler-utils groff-base)
 # llvm brings the symbolizer that the sanitizers' reports and suppressions need.

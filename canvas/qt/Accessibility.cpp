@@ -14,8 +14,12 @@ namespace {
 class SpokenArea : public QAccessibleWidget {
  public:
   explicit SpokenArea(DrawingArea& area)
-      : QAccessibleWidget(&area, QAccessible::Canvas), area_(area) {}
+      : QAccessibleWidget(&area, QAccessible::Client), area_(area) {}
 
+  // One that draws nothing only holds controls.
+  QAccessible::Role role() const override {
+    return area_.hasWords() ? QAccessible::Canvas : QAccessibleWidget::role();
+  }
   QString text(QAccessible::Text kind) const override {
     return kind == QAccessible::Description ? area_.words() : QAccessibleWidget::text(kind);
   }
@@ -82,7 +86,10 @@ class SpokenEntry : public QAccessibleObject, public QAccessibleActionInterface 
   }
   QStringList actionNames() const override { return {pressAction()}; }
   void doAction(const QString& name) override {
-    if (name == pressAction()) entry_.trigger();
+    // Later, for a box that it opens would keep the one waiting who asks for this.
+    if (name == pressAction()) {
+      QMetaObject::invokeMethod(&entry_, &QAction::trigger, Qt::QueuedConnection);
+    }
   }
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

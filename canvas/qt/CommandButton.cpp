@@ -54,6 +54,14 @@ void CommandButton::Caption(const QString& caption) {
   wrap();
 }
 
+int CommandButton::leastWidth() const {
+  int widest = 0;
+  for (const QString& word : words(caption_)) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(withoutBlanksBehind(word)));
+  }
+  return widest + margin;
+}
+
 void CommandButton::wrap() {
   const QStringList wrapped = lines(caption_, fontMetrics(), width() - margin);
   setText(wrapped.join('\n').replace('&', "&&"));

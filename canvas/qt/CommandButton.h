@@ -14,6 +14,8 @@ class CommandButton : public Control<QPushButton> {
   CommandButton(Form& form, const QString& name, const Place& place);
 
   QString Caption() const { return caption_; }
+  // The width at which the longest word of the caption is whole, pixels.
+  int leastWidth() const;
   // The button grows downwards where the caption would be clipped.
   void Caption(const QString& caption);
 

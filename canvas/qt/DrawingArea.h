@@ -41,6 +41,7 @@ class DrawingArea : public QWidget {
 
   // How the picture is put in words for those who cannot see it; nothing but a screen reader asks.
   void describeBy(std::function<QString()> inWords) { inWords_ = std::move(inWords); }
+  bool hasWords() const { return inWords_ != nullptr; }
   QString words() const { return inWords_ ? inWords_() : accessibleDescription(); }
   // Tells screen readers, if there are any, when the words are no longer those told last. By itself
   // the area does so at most twice a second while the picture changes.

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QStringList>
 
 namespace lensbench {
@@ -16,6 +18,13 @@ QString firstInstalled(const QStringList& wanted) {
   return greek.isEmpty() ? wanted.front() : greek.front();
 }
 
+// Who has made the desktop's own text larger needs ours as large.
+double desktopText() {
+  const QFont font = QGuiApplication::font();
+  const double points = font.pointSizeF();
+  return points > 0.0 ? points : QFontInfo(font).pointSizeF();
+}
+
 }  // namespace
 
 QString installedFamily(const QString& givenName) {
@@ -26,7 +35,7 @@ QString installedFamily(const QString& givenName) {
 
 QFont controlFont(const QString& givenName, double points) {
   QFont font(installedFamily(givenName));
-  font.setPointSizeF(std::max(points, smallestControlText));
+  font.setPointSizeF(std::max({points, smallestControlText, desktopText()}));
   return font;
 }
 

@@ -6,7 +6,7 @@
 
 namespace lensbench {
 
-// Text of controls is never smaller than this, in points.
+// Text of controls is never smaller than this, in points, nor smaller than the desktop's own text.
 constexpr double smallestControlText = 9.0;
 
 // A face with Greek letters: a serif face for a name with "Times", else one without serifs. The

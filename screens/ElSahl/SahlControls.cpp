@@ -66,7 +66,7 @@ void SahlControls::placeOptions(int width) {
     int x = top == 0 ? std::max(place.x(), free) : free;
     if (x > left && x + needed.width() > width) {
       x = left;
-      top += place.height();
+      top += needed.height();
     }
     options[i]->setGeometry({{x, top}, needed});
     free = x + needed.width();

@@ -18,7 +18,7 @@ MenuControls::MenuControls(Form& form)
       Label1(form, "Label1", {3120, 2160, 1575, 735}) {
   deiktissahl.range(100, 250, 20, 150);
   setTexts();
-  makeRoom();
+  makeRoom(form);
   describeAll();
   setTabOrder();
 }
@@ -36,10 +36,13 @@ void MenuControls::setTexts() {
 }
 
 // The buttons stand side by side and equally high, and the label holds the longest of its lines.
-void MenuControls::makeRoom() {
+void MenuControls::makeRoom(Form& form) {
   CommandButton* buttons[] = {&Command1, &Command2, &Command3};
   int height = 0;
-  for (const CommandButton* button : buttons) height = std::max(height, button->height());
+  for (CommandButton* button : buttons) {
+    button->resize(std::max(button->width(), button->leastWidth()), button->height());
+    height = std::max(height, button->height());
+  }
   int free = 0;
   for (CommandButton* button : buttons) {
     button->setGeometry(std::max(button->x(), free), button->y(), button->width(), height);
@@ -52,10 +55,30 @@ void MenuControls::makeRoom() {
     widest = std::max(widest, Label1.fontMetrics().horizontalAdvance(QString::fromUtf8(line)));
   }
   Label1.resize(widest + spare, Label1.height());
+  const int offMiddle = Label1.geometry().center().y() - deiktissahl.geometry().center().y();
   // Beside the middle of the scroll bar, which is above the middle of the label.
   Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  Label1.setContentsMargins(
-      0, 0, 0, 2 * (Label1.geometry().center().y() - deiktissahl.geometry().center().y()));
+  Label1.setContentsMargins(0, 0, 0, 2 * offMiddle);
+  const int lines = 2 * (Label1.fontMetrics().lineSpacing() + offMiddle);
+  const int higher = std::max(0, (lines - Label1.height() + 1) / 2);
+  Label1.setGeometry(Label1.geometry().adjusted(0, -higher, 0, higher));
+  makeRoomForLargeTexts(form);
+}
+
+// Below buttons that large texts make high, and in a window that holds it all.
+void MenuControls::makeRoomForLargeTexts(Form& form) {
+  const int down = Command1.geometry().bottom() + 1 + gap - Label1.y();
+  if (down > 0) {
+    for (QWidget* widget : {static_cast<QWidget*>(&deiktissahl), static_cast<QWidget*>(&Label1)}) {
+      widget->move(widget->x(), widget->y() + down);
+    }
+  }
+  const QSize client = form.drawingArea()->size();
+  const int right = std::max(Command3.geometry().right(), Label1.geometry().right()) + 1;
+  const QSize needed = client.expandedTo({right + gap, Label1.geometry().bottom() + 1 + gap});
+  if (needed != client) {
+    form.clientSize(needed.width() * twipsPerPixel, needed.height() * twipsPerPixel);
+  }
 }
 
 void MenuControls::describeAll() {

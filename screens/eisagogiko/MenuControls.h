@@ -19,7 +19,8 @@ struct MenuControls {
 
  private:
   void setTexts();
-  void makeRoom();
+  void makeRoom(Form& form);
+  void makeRoomForLargeTexts(Form& form);
   void describeAll();
   void setTabOrder();
 };

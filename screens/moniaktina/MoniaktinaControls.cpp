@@ -28,7 +28,7 @@ MoniaktinaControls::MoniaktinaControls(Form& form)
       sourceMark(form, "sourceMark", sourceColour) {
   setRanges();
   setLooks();
-  placeBars();
+  placeRows();
   makeRoomForTexts();
   describeAll();
   setTabOrder();
@@ -66,13 +66,19 @@ void MoniaktinaControls::setLooks() {
   aim.Visible(false);
 }
 
-// Flush, one under the other, and inside the window.
-void MoniaktinaControls::placeBars() {
-  constexpr int rowHeight = 24;  // pixels
-  for (ScrollBar* bar : {&aktina2, &aktina1, &deiktisdiathlasis, &kentrokykloy}) {
-    const QRect place = bar->geometry();
-    bar->setGeometry(QRect(QPoint(std::max(place.left(), 0), place.top()), place.bottomRight()));
-    bar->resize(bar->width(), rowHeight);
+// Flush, one row under the other, and inside the window.
+void MoniaktinaControls::placeRows() {
+  ScrollBar* const bars[] = {&aktina2, &aktina1, &deiktisdiathlasis, &kentrokykloy};
+  TextBox* const boxes[] = {&Text5, &Text6, &Text2, &Text7};
+  int step = 24;  // pixels; large texts need more
+  for (const TextBox* box : boxes) step = std::max(step, box->sizeHint().height() - 1);
+  for (int row = 0; row < 4; ++row) {
+    ScrollBar& bar = *bars[row];
+    const int left = std::max(bar.x(), 0);
+    bar.setGeometry(left, row * step, bar.geometry().right() + 1 - left, step);
+    // One pixel into the next row, for neighbours share a border.
+    TextBox& box = *boxes[row];
+    box.setGeometry(box.x(), row * step, box.width(), step + 1);
   }
 }
 

@@ -37,7 +37,7 @@ struct MoniaktinaControls {
   void setRanges();
   void setLooks();
   void describeAll();
-  void placeBars();
+  void placeRows();
   void makeRoomForTexts();
   void setTabOrder();
 };
