@@ -11,6 +11,8 @@ from gi.repository import GLib
 PATIENCE = 30.0  # seconds
 GREEK = r"[\u0370-\u03ff\u1f00-\u1fff]"
 BILINGUAL_NAME = re.compile(rf"^{GREEK}.* · [A-Z]")
+# What the keyboard need not reach; the drawing tells itself whether it does.
+UNREACHED = (pyatspi.ROLE_LABEL, pyatspi.ROLE_MENU_BAR, pyatspi.ROLE_CANVAS)
 BILINGUAL_LINES = re.compile(rf"^.*{GREEK}.*\n.*[A-Z].*$", re.DOTALL)
 
 
@@ -80,6 +82,10 @@ def press(window, role, english):
     find(window, role, english).queryAction().doAction(0)
 
 
+def set_bar(window, english, value):
+    find(window, pyatspi.ROLE_SCROLL_BAR, english).queryValue().currentValue = value
+
+
 def drawing(window):
     return next(node for node in everything(window) if node.getRole() == pyatspi.ROLE_CANVAS)
 
@@ -100,20 +106,25 @@ def expect_value(node):
     elif role == pyatspi.ROLE_TEXT:
         expect(text_of(node), f"the box {name} has no text")
         expect(
-            not node.getState().contains(pyatspi.STATE_EDITABLE), f"the box {name} can be written"
+            node.getState().contains(pyatspi.STATE_READ_ONLY), f"the box {name} can be written"
         )
     elif role == pyatspi.ROLE_LABEL:
         lines = node.description.split("\n")
         expect(len(lines) == 3 and lines[0], f"the label {name} says {lines}")
-    elif role in (pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON):
-        expect(
-            node.getState().contains(pyatspi.STATE_CHECKABLE), f"{name} is not told as checkable"
-        )
+    elif role == pyatspi.ROLE_RADIO_BUTTON:
+        chosen = node.getState().contains(pyatspi.STATE_CHECKED)
+        expect(chosen == name.endswith(" · Rays and waves"), f"{name} is {chosen}")
 
 
 def expect_screen(window, roles):
     """Exactly these controls, each with its words in both languages."""
-    controls = [node for node in everything(window) if node.getRole() != pyatspi.ROLE_FILLER]
+    controls = [
+        node
+        for node in everything(window)
+        # What only holds others; a bar without entries is nothing to be seen.
+        if node.getRole() != pyatspi.ROLE_FILLER
+        and (node.getRole() != pyatspi.ROLE_MENU_BAR or node.childCount > 0)
+    ]
     found = Counter(node.getRole() for node in controls)
     expect(found == Counter(roles), f"{window.name} has {found}, not {roles}")
     for node in controls:
@@ -123,6 +134,9 @@ def expect_screen(window, roles):
                 BILINGUAL_LINES.match(node.description),
                 f"{node.name} is described as {node.description!r}",
             )
+        if node.getRole() not in UNREACHED:
+            focusable = node.getState().contains(pyatspi.STATE_FOCUSABLE)
+            expect(focusable, f"{node.name} cannot have the focus")
         expect_value(node)
 
 
@@ -166,14 +180,14 @@ def workbench():
     expect_words(window, "ακτίνα 100", "the radius 100", "Focal length f = 120", "No rays")
 
     def longer():
-        find(window, pyatspi.ROLE_SCROLL_BAR, "Radius of the left circle").queryValue().currentValue = 140
+        set_bar(window, "Radius of the left circle", 140)
 
     expect_told(longer, window)
     box = find(window, pyatspi.ROLE_TEXT, "Radius of the left circle")
     wait_for(lambda: text_of(box).endswith("=140"), "the text of the radius")
     expect_words(window, "ακτίνα 140", "the radius 140")
 
-    find(window, pyatspi.ROLE_SCROLL_BAR, "Multiplier of the ray step").queryValue().currentValue = 60
+    set_bar(window, "Multiplier of the ray step", 60)
     label = find(window, pyatspi.ROLE_LABEL, "Multiplier of the ray step")
     wait_for(lambda: label.description.split("\n")[0].endswith("60"), "the text of the multiplier")
     check = find(window, pyatspi.ROLE_CHECK_BOX, "Waves and rays")
@@ -191,11 +205,10 @@ def one_ray():
             pyatspi.ROLE_SCROLL_BAR: 4,
             pyatspi.ROLE_TEXT: 4,
             pyatspi.ROLE_PUSH_BUTTON: 1,
-            pyatspi.ROLE_MENU_BAR: 0,
         },
     )
-    find(window, pyatspi.ROLE_SCROLL_BAR, "Radius of circle 1").queryValue().currentValue = 200
-    expect_words(window, "Ο κύκλος 1 έχει κέντρο 0 και ακτίνα 200", "the radius 200", "No ray")
+    set_bar(window, "Radius of circle 1", 120)
+    expect_words(window, "Ο κύκλος 1 έχει κέντρο 0 και ακτίνα 120", "the radius 120", "No ray")
     press(window, pyatspi.ROLE_PUSH_BUTTON, "Back")
 
 
@@ -206,7 +219,7 @@ def ibn_sahl():
         menu,
         {pyatspi.ROLE_SCROLL_BAR: 1, pyatspi.ROLE_PUSH_BUTTON: 3, pyatspi.ROLE_LABEL: 1},
     )
-    find(menu, pyatspi.ROLE_SCROLL_BAR, "Index of refraction").queryValue().currentValue = 180
+    set_bar(menu, "Index of refraction", 180)
     press(menu, pyatspi.ROLE_PUSH_BUTTON, "Biconvex hyperbolic lens")
     window = screen("Hyperbolic lens")
     expect_screen(
@@ -231,7 +244,10 @@ def main():
     workbench()
     one_ray()
     ibn_sahl()
-    press(screen("Spherical lenses"), pyatspi.ROLE_MENU_ITEM, "End")
+    try:
+        press(screen("Spherical lenses"), pyatspi.ROLE_MENU_ITEM, "End")
+    except GLib.Error:
+        pass  # it may be gone before it answers
 
 
 main()

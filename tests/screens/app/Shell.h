@@ -10,6 +10,11 @@
 #include "tests/screens/support/FakeDialogs.h"
 #include "tests/support/HandClock.h"
 
+// How a failed test shows a text.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
+
 namespace lensbench {
 
 class SpokenDialogs : public FakeDialogs {

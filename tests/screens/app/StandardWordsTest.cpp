@@ -1,7 +1,6 @@
 // The toolkit's own dialogs on desktops of several languages.
 #include <gtest/gtest.h>
 #include <memory>
-#include <ostream>
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -15,10 +14,7 @@
 #include <QTranslator>
 
 #include "app/StandardWords.h"
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << '"' << text.toStdString() << '"';
-}
+#include "tests/screens/app/Shell.h"
 
 namespace lensbench {
 namespace {
@@ -75,8 +71,8 @@ TEST_F(StandardWords, OfAFileDialogAreGreekOnAGreekDesktop) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   QStringList latin;
   for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-    const QString text = label->text();
-    if (!text.isEmpty() && text.remove('&').front().script() == QChar::Script_Latin) latin << text;
+    const QString text = label->text().remove('&');
+    if (!text.isEmpty() && text.front().script() == QChar::Script_Latin) latin << text;
   }
   for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
     const QString text = button->text().remove('&');
