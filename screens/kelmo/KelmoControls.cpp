@@ -84,8 +84,6 @@ void KelmoControls::setRanges() {
 void KelmoControls::setTexts() {
   Check1.Caption("SHOW WAVES AND RAYS");
   Check2.Caption("SHOW ONLY WAVES");
-  // They stand on the white picture like the labels, not on grey plates of their own.
-  for (CheckBox* box : {&Check1, &Check2}) box->setBackgroundRole(QPalette::Base);
   Label3.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   Label1.Caption(
       "ΜΠΟΡΕΙΣ ΝΑ ΔΗΜΙΟΥΡΓΗΣΕΙΣ ΜΙΑ ΔΕΣΜΗ ΑΚΤΙΝΩΝ ΠΑΤΩΝΤΑΣ ΤΟ SHIFT KAI ΤΟ ΑΡΙΣΤΕΡΟ ΠΛΗΚΤΡΟ ΤΟΥ "
