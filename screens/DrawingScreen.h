@@ -25,6 +25,8 @@ class DrawingScreen : public Form {
   virtual void put(int thing, Point p) = 0;
   // A drag in progress is left, and all is as it was before; false when there was none.
   virtual bool leaveDrag() = 0;
+  // The picture in words, a Greek line and an English one, for those who cannot see it.
+  virtual QString inWords() const = 0;
   // The Enter key at a thing: at a source it sends the fan or the ray.
   virtual void enter(int /*thing*/) {}
   // What stands on the picture, or stood there before it was wiped, once more with the values of

@@ -1,7 +1,5 @@
 #include "screens/InWords.h"
 
-#include <cmath>
-
 #include "canvas/Format.h"
 
 namespace lensbench {
@@ -14,10 +12,7 @@ void InWords::add(const QString& greek, const QString& english) {
   english_ += english;
 }
 
-QString InWords::number(double value) {
-  const bool whole = value == std::round(value);
-  return QString::fromStdString(whole ? formatWhole(value) : formatHundredths(value));
-}
+QString InWords::number(double value) { return QString::fromStdString(formatShort(value)); }
 
 void tellSource(InWords& words, Point source) {
   words.add("Η φωτεινή πηγή είναι στο (%1, %2).", "The light source is at (%1, %2).", source.x,

@@ -53,7 +53,6 @@ ElSahl::ElSahl(const Context& context) : DrawingScreen(design, context), control
   drawingArea()->setAccessibleName(
       QStringLiteral("Υπερβολικός φακός, πάτησε για να βάλεις την πηγή · "
                      "Hyperbolic lens, press to place the source"));
-  area().describeBy([this] { return inWords(); });
   drawingArea()->setToolTip(
       "Πάτησε για να βάλεις την πηγή. Σύρε μια μπλε ακμή για να μετακινήσεις το διάφραγμα· "
       "στην αρχή στέκεται πίσω από την πηγή.\n"

@@ -19,8 +19,6 @@ class ElSahl : public DrawingScreen {
 
   SahlControls& controls() { return controls_; }
   const protosfakos::Shown& shown() const { return easel_.shown(); }
-  // The picture in words, a Greek line and an English one, for those who cannot see it.
-  QString inWords() const;
 
   // What the lens menu does to this screen before it draws: a square window at the upper-left
   // corner of the display, two thirds of the display high and no wider than it, shown with the
@@ -51,6 +49,7 @@ class ElSahl : public DrawingScreen {
   std::optional<Answer> ask(Point p, double reach) const override;
   void put(int thing, Point p) override;
   bool leaveDrag() override;
+  QString inWords() const override;
   void enter(int thing) override;
 
   // Handlers, named after control and event.

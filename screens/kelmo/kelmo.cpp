@@ -29,7 +29,6 @@ kelmo::kelmo(const Context& context)
     : DrawingScreen(design, context), controls_(*this, context.clock), easel_(*this) {
   setAccessibleName("Σφαιρικοί φακοί · Spherical lenses");
   describe(*drawingArea(), "Σχέδιο με τον φακό · Picture of the lens", {});
-  area().describeBy([this] { return inWords(); });
   // Below this the controls would stand on each other.
   setMinimumSize(600, 320);
   canvas().FontName("Symbol");

@@ -22,8 +22,6 @@ class kelmo : public DrawingScreen {
   // The rays that carry the moving waves; a tick without them moves nothing.
   const std::optional<poreiaaktinon::Sent>& set() const { return set_; }
 
-  // The picture in words, a Greek line and an English one, for those who cannot see it.
-  QString inWords() const;
 
   // What the controls say; lengths in user units.
   double R1() const { return controls_.aktina1.Value(); }         // radius of the left circle
@@ -68,6 +66,7 @@ class kelmo : public DrawingScreen {
   std::optional<Answer> ask(Point p, double reach) const override;
   void put(int thing, Point p) override;
   bool leaveDrag() override;
+  QString inWords() const override;
   void enter(int thing) override;
   bool pauseWaves() override;
   bool stepWaves(int steps) override;

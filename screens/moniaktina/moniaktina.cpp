@@ -38,7 +38,6 @@ bool stopped(const single::Shown& shown) {
 moniaktina::moniaktina(const Context& context) : DrawingScreen(design, context), controls_(*this) {
   setAccessibleName("Μία ακτίνα · One ray");
   drawingArea()->setAccessibleName("Σχέδιο με μία ακτίνα · Picture of one ray");
-  area().describeBy([this] { return inWords(); });
   drawingArea()->setToolTip(
       "Πάτησε για να βάλεις την πηγή, σύρε και άφησε για να στείλεις την ακτίνα. "
       "Τη σταματά το διάφραγμα των σφαιρικών φακών, αν είναι κλειστό.\n"

@@ -20,8 +20,6 @@ class moniaktina : public DrawingScreen {
 
   MoniaktinaControls& controls() { return controls_; }
   const poreiaaktinon::single::Shown& shown() const { return easel_.shown(); }
-  // The picture in words, a Greek line and an English one, for those who cannot see it.
-  QString inWords() const;
 
   // Fills the display and puts the origin in the middle of the client area, which is 1200 units
   // wide and high together; a unit is as long in x as in y.
@@ -49,6 +47,7 @@ class moniaktina : public DrawingScreen {
   std::optional<Answer> ask(Point p, double reach) const override;
   void put(int thing, Point p) override;
   bool leaveDrag() override;
+  QString inWords() const override;
   void enter(int thing) override;
 
   // Why a ray that is aimed there should not be let go: a pixel to either side, exactly above or

@@ -149,7 +149,7 @@ def expect_words(window, *parts):
 
 
 def expect_told(change, window):
-    """After the change the bus tells that the drawing has other words."""
+    """After the change the bus tells that the drawing has other words; how often it did."""
     told = []
 
     def listen(event):
@@ -161,6 +161,7 @@ def expect_told(change, window):
     change()
     wait_for(lambda: told, f"news of the drawing of {window.name}")
     pyatspi.Registry.deregisterEventListener(listen, kind)
+    return len(told)
 
 
 def workbench():
@@ -178,6 +179,16 @@ def workbench():
         },
     )
     expect_words(window, "ακτίνα 100", "the radius 100", "Focal length f = 120", "No rays")
+
+    def flood():
+        for value in range(101, 131):
+            set_bar(window, "Radius of the left circle", value)
+            time.sleep(0.05)
+
+    begun = time.monotonic()
+    told = expect_told(flood, window)
+    spent = time.monotonic() - begun
+    expect(told <= 1 + spent / 0.5, f"{told} pieces of news in {spent:.1f} seconds")
 
     def longer():
         set_bar(window, "Radius of the left circle", 140)

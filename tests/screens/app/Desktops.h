@@ -60,7 +60,10 @@ struct ShownProgram : Program {
     for (Form* form :
          {static_cast<Form*>(&screens.kelmo()), static_cast<Form*>(&screens.moniaktina())}) {
       form->setWindowState(Qt::WindowNoState);
+      // A window that has become an ordinary one is fitted to the display a moment later.
       QTest::qWait(130);
+      form->resize(1366, 740);
+      QApplication::processEvents();
       form->resize(1366, 740);
     }
     QApplication::processEvents();

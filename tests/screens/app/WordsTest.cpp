@@ -3,6 +3,7 @@
 
 #include <QRegularExpression>
 
+#include "canvas/Format.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "tests/screens/app/Desktops.h"
 
@@ -56,8 +57,8 @@ TEST_F(Words, OfTheWorkbenchTellTheFanAndTheImage) {
   const Point image = poreiaaktinon::imageOf(poreiaaktinon::cardinalPoints(bench.fakos(), 1.5),
                                              {-300.0, 20.0}, poreiaaktinon::Travel::Right);
   EXPECT_TRUE(words.contains(QStringLiteral("image of the source is at (%1, %2), real")
-                                 .arg(image.x, 0, 'f', 2)
-                                 .arg(image.y, 0, 'f', 2)))
+                                 .arg(QString::fromStdString(formatShort(image.x)),
+                                      QString::fromStdString(formatShort(image.y)))))
       << words.toStdString();
 }
 
