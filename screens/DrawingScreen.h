@@ -4,15 +4,22 @@
 #include <optional>
 #include <vector>
 
+#include <QPointF>
+
 #include "canvas/Answer.h"
 #include "canvas/qt/Form.h"
 #include "screens/Context.h"
+#include "screens/Halo.h"
 #include "screens/Keys.h"
 #include "screens/Thing.h"
 #include "screens/ThingFocus.h"
 
+class QHelpEvent;
+
 namespace lensbench {
 
+// The pointer's shape, a halo and the tool tips of a pointer at rest say what a press would take
+// and what is drawn. All of them, and the press itself, go by takenAt() and things().
 class DrawingScreen : public Form {
  public:
   // What can be taken, in the order of the Tab key. Points in user units.
@@ -41,6 +48,10 @@ class DrawingScreen : public Form {
   // Where the keyboard is among the things.
   ThingFocus& thingFocus() noexcept { return thingFocus_; }
 
+  // What a tool tip says there: what a press would take and what happens to a ray there, or else
+  // what is drawn there, or else the hint of the drawing area, or else where help is.
+  QString tipAt(Point p) const;
+
  protected:
   DrawingScreen(const FormDesign& design, const Context& context);
 
@@ -48,6 +59,14 @@ class DrawingScreen : public Form {
   void keyPressEvent(QKeyEvent* event) override;
   // Back to the screen before, as the close box goes.
   virtual void goBack() { emit CloseBox(); }
+
+  std::optional<Thing> thingOf(int id) const;
+  // The pointer is over that, or over nothing that a press would take.
+  virtual void showPointer(Qt::CursorShape shape);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  // A finger also takes what it only comes near to.
+  Point userPoint(const QMouseEvent& event) override;
 
   const Context context_;
 
@@ -60,7 +79,19 @@ class DrawingScreen : public Form {
   bool stepByHand(int steps);
   void escape();
 
+  // The pointer, without a button pressed, is there, in logical pixels; or nowhere on the picture.
+  void hover(std::optional<QPointF> pixel);
+  // Things may have moved under the pointer.
+  void hoverAnew();
+  void showTip(const QHelpEvent& event);
+  Point toUser(QPointF pixel) const;
+
+  Halo halo_;
   ThingFocus thingFocus_{*this};
+  std::optional<QPointF> hovering_;
+  std::optional<int> over_;  // what a press there would take
+  QString tip_;              // the last one shown
+  Point toThing_;            // from a finger to what it takes, user units
 };
 
 }  // namespace lensbench

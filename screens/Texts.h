@@ -15,13 +15,10 @@ inline QString labelled(const char* caption, const std::string& number) {
   return QString::fromUtf8(caption) + QString::fromStdString(number);
 }
 
-// Numbers inside a sentence; a point as its two coordinates in parentheses.
-inline QString whole(double number) { return QString::fromStdString(formatWhole(number)); }
-inline QString hundredths(double number) {
-  return QString::fromStdString(formatHundredths(number));
-}
+// Numbers inside a sentence, whole ones without decimals; a point as its coordinates.
+inline QString number(double value) { return QString::fromStdString(formatShort(value)); }
 inline QString coordinates(Point p) {
-  return QStringLiteral("(%1, %2)").arg(hundredths(p.x), hundredths(p.y));
+  return QStringLiteral("(%1, %2)").arg(number(p.x), number(p.y));
 }
 
 // Said of an index of refraction below 1: when a lens is opened or a bundle asked for, and when the

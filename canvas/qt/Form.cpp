@@ -88,8 +88,12 @@ void Form::MousePointer(int shape) {
   }
 }
 
+Point Form::userPoint(const QMouseEvent& event) {
+  return canvas().mapping().toUser({event.position().x(), event.position().y()});
+}
+
 void Form::report(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent& event) {
-  const Point user = canvas().mapping().toUser({event.position().x(), event.position().y()});
+  const Point user = userPoint(event);
   emit(this->*signal)(buttonNumber(buttons), shiftNumber(event.modifiers()), user.x, user.y);
 }
 

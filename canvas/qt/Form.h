@@ -108,6 +108,8 @@ class Form : public QMainWindow {
   void moveEvent(QMoveEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+  // Where a mouse event is meant, user units.
+  virtual Point userPoint(const QMouseEvent& event);
   // A press of the left button that is held here is over: its release will not be told. False when
   // none is held.
   bool endDrag();

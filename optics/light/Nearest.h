@@ -52,7 +52,7 @@ class Nearest {
 
   std::optional<Answer> answer() const {
     if (!words_) return std::nullopt;
-    return Answer{words_(), at_, std::sqrt(square_)};
+    return Answer{words_(), at_, std::sqrt(square_), rank_ == Rank::Event};
   }
 
  private:

@@ -69,6 +69,7 @@ class ElSahl : public DrawingScreen {
   bool syromenigrammi2 = false;  // the lower edge is being dragged
 
  private:
+  void showPointer(Qt::CursorShape shape) override;
   void connectHandlers();
   // The box of the lenses whole in the middle of the drawing area, with the ratio of the units that
   // the window opens with.

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "optics/light/Edges.h"
+#include "optics/protosfakos/Ask.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/Outline.h"
 #include "screens/Shared.h"
@@ -23,14 +24,14 @@ QString upperEdgeWords(const light::Diafragma& d) {
   return QStringLiteral(
              "Άνω ακμή του διαφράγματος: το άκρο της στο %1, οπή %2. Σύρε την.\n"
              "Upper edge of the diaphragm: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yA}), hundredths(d.yA - d.yB));
+      .arg(coordinates({d.X, d.yA}), number(d.yA - d.yB));
 }
 
 QString lowerEdgeWords(const light::Diafragma& d) {
   return QStringLiteral(
              "Κάτω ακμή του διαφράγματος: το άκρο της στο %1, οπή %2. Σύρε την.\n"
              "Lower edge of the diaphragm: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yB}), hundredths(d.yA - d.yB));
+      .arg(coordinates({d.X, d.yB}), number(d.yA - d.yB));
 }
 
 }  // namespace
@@ -78,7 +79,12 @@ std::optional<int> ElSahl::takenAt(Point p) const {
   return std::nullopt;
 }
 
-std::optional<Answer> ElSahl::ask(Point /*p*/, double /*reach*/) const { return std::nullopt; }
+std::optional<Answer> ElSahl::ask(Point p, double reach) const {
+  return protosfakos::ask(shown(), p, reach);
+}
+
+// Form_MouseMove shows it.
+void ElSahl::showPointer(Qt::CursorShape /*shape*/) {}
 
 void ElSahl::put(int thing, Point p) {
   context_.shared.onlyWavesAsked = false;

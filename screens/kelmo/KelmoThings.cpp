@@ -1,4 +1,5 @@
 // What can be taken on the workbench, in words and by other means than the mouse.
+#include "optics/poreiaaktinon/Ask.h"
 #include "screens/Outline.h"
 #include "screens/Shared.h"
 #include "screens/Texts.h"
@@ -31,35 +32,35 @@ QString upperBladeWords(const Diafragma& d) {
   return QStringLiteral(
              "Άνω διάφραγμα: το άκρο του στο %1, οπή %2. Σύρε το.\n"
              "Upper blade: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yA}), hundredths(d.yA - d.yB));
+      .arg(coordinates({d.X, d.yA}), number(d.yA - d.yB));
 }
 
 QString lowerBladeWords(const Diafragma& d) {
   return QStringLiteral(
              "Κάτω διάφραγμα: το άκρο του στο %1, οπή %2. Σύρε το.\n"
              "Lower blade: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yB}), hundredths(d.yA - d.yB));
+      .arg(coordinates({d.X, d.yB}), number(d.yA - d.yB));
 }
 
 QString diaphragmWords(const Diafragma& d) {
   return QStringLiteral(
              "Διάφραγμα στο x = %1, οπή %2 από το y = %3 ως το y = %4. Σύρε το ολόκληρο.\n"
              "Diaphragm at x = %1, opening %2 from y = %3 to y = %4. Drag it as a whole.")
-      .arg(hundredths(d.X), hundredths(d.yA - d.yB), hundredths(d.yB), hundredths(d.yA));
+      .arg(number(d.X), number(d.yA - d.yB), number(d.yB), number(d.yA));
 }
 
 QString centreWords(const char* greekCircle, const char* englishCircle, double centre) {
   return QStringLiteral(
              "Κέντρο του %1 κύκλου στο x = %3. Σύρε το πάνω στον άξονα.\n"
              "Centre of the %2 circle at x = %3. Drag it along the axis.")
-      .arg(QString::fromUtf8(greekCircle), QString::fromUtf8(englishCircle), whole(centre));
+      .arg(QString::fromUtf8(greekCircle), QString::fromUtf8(englishCircle), number(centre));
 }
 
 QString edgeWords(const char* greekCircle, const char* englishCircle, double radius) {
   return QStringLiteral(
              "Άκρο του %1 κύκλου, ακτίνα %3. Σύρε το για να αλλάξεις την ακτίνα.\n"
              "Edge of the %2 circle, radius %3. Drag it to change the radius.")
-      .arg(QString::fromUtf8(greekCircle), QString::fromUtf8(englishCircle), whole(radius));
+      .arg(QString::fromUtf8(greekCircle), QString::fromUtf8(englishCircle), number(radius));
 }
 
 }  // namespace
@@ -133,16 +134,16 @@ std::optional<int> kelmo::takenAt(Point p) const {
   return grab == Grab::None ? std::nullopt : std::optional(idOf(grab));
 }
 
-std::optional<Answer> kelmo::ask(Point /*p*/, double /*reach*/) const { return std::nullopt; }
+std::optional<Answer> kelmo::ask(Point p, double reach) const {
+  return poreiaaktinon::ask(shown(), p, reach);
+}
 
 void kelmo::put(int thing, Point p) {
-  for (const Thing& taken : things()) {
-    if (taken.id != thing) continue;
-    take(static_cast<Grab>(thing), taken.at);
-    drawAnew();
-    Form_MouseUp(leftButton, 0, p.x, p.y);
-    return;
-  }
+  const auto taken = thingOf(thing);
+  if (!taken) return;
+  take(static_cast<Grab>(thing), taken->at);
+  drawAnew();
+  Form_MouseUp(leftButton, 0, p.x, p.y);
 }
 
 bool kelmo::leaveDrag() {

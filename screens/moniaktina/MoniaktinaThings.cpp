@@ -1,6 +1,7 @@
 // What can be placed on the single-ray screen, in words and by other means than the mouse.
 #include <algorithm>
 
+#include "optics/poreiaaktinon/Ask.h"
 #include "screens/Outline.h"
 #include "screens/Texts.h"
 #include "screens/moniaktina/moniaktina.h"
@@ -54,7 +55,9 @@ std::vector<Thing> moniaktina::things() const {
 
 std::optional<int> moniaktina::takenAt(Point /*p*/) const { return std::nullopt; }
 
-std::optional<Answer> moniaktina::ask(Point /*p*/, double /*reach*/) const { return std::nullopt; }
+std::optional<Answer> moniaktina::ask(Point p, double reach) const {
+  return poreiaaktinon::single::ask(shown(), p, reach);
+}
 
 void moniaktina::put(int thing, Point p) {
   if (thing == Aim) return Form_MouseUp(leftButton, 0, p.x, p.y);
