@@ -10,6 +10,7 @@
 #include "screens/eisagogiko/eisagogiko.h"
 #include "tests/screens/support/PictureOf.h"
 #include "tests/screens/support/TestContext.h"
+#include "tests/support/ByHand.h"
 
 namespace lensbench {
 namespace {
@@ -93,6 +94,23 @@ TEST_F(Eisagogiko, ChangeWritesTheLabelAndTheIndexAndDrawsNothing) {
   EXPECT_EQ(before, picture());
   controls().deiktissahl.Value(1000);
   EXPECT_EQ("INDEX  OF REFRACTION Δείκτης Διάθλασης= 2.50", label());
+}
+
+TEST_F(Eisagogiko, TheIndexIsSetByTheWheelOverItsLabelAndByTypingInItsBar) {
+  menu.Show();
+  menu.activateWindow();
+  turnWheel(controls().Label1, 1);
+  EXPECT_EQ(153, controls().deiktissahl.Value());
+  enterInto(menu, controls().deiktissahl, "1,72");
+  EXPECT_EQ(nullptr, fieldOn(menu));
+  EXPECT_EQ("INDEX  OF REFRACTION Δείκτης Διάθλασης= 1.72", label());
+  EXPECT_DOUBLE_EQ(1.72, shared.deiktisSahl.value());
+  enterInto(menu, controls().deiktissahl, "0");
+  EXPECT_EQ(100, controls().deiktissahl.Value());
+  enterInto(menu, controls().deiktissahl, "2..");
+  ASSERT_NE(nullptr, fieldOn(menu));
+  EXPECT_TRUE(fieldOn(menu)->note().text().contains("1.00"));
+  EXPECT_EQ(100, controls().deiktissahl.Value());
 }
 
 TEST_F(Eisagogiko, TheBiconvexButtonOpensAndDrawsTheBiconvexLens) {
