@@ -145,13 +145,16 @@ void ElSahl::followWithMarks() {
 
 void ElSahl::Form_MouseDown(int Button, int /*Shift*/, double X, double Y) {
   if (Button != leftButton) return;
-  context_.shared.onlyWavesAsked = false;
   const Point p{X, Y};
+  live_.reset();
   beforePress_ = state();
+  onlyWavesBefore_ = std::exchange(context_.shared.onlyWavesAsked, false);
   pigiXBefore_ = context_.shared.pigiX;
   pigiYBefore_ = context_.shared.pigiY;
   take(takenAt(p));
-  if (!dragging()) placeSource(p);
+  if (dragging()) return;
+  if (hasLens()) live_ = LiveSource{p};
+  placeSource(p);
 }
 
 void ElSahl::placeSource(Point p) {
@@ -162,8 +165,9 @@ void ElSahl::placeSource(Point p) {
   drawFan();
 }
 
-void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
+void ElSahl::Form_MouseMove(int Button, int /*Shift*/, double X, double Y) {
   const Point p{X, Y};
+  if ((Button & leftButton) != 0) moveLive(p);
   if (dragging()) dragTo(p);
   // Kept on purpose: of the two drags only that of the upper edge holds the cross.
   const bool onEdge = syromenigrammi1 || takenAt(p).has_value();
@@ -171,7 +175,10 @@ void ElSahl::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
 }
 
 void ElSahl::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
-  if (Button != leftButton || !dragging()) return;
+  if (Button != leftButton) return;
+  if (live_ && live_->moved) moveLive({X, Y});
+  live_.reset();
+  if (!dragging()) return;
   dragTo({X, Y});
   syromenigrammi1 = false;
   syromenigrammi2 = false;
@@ -190,7 +197,20 @@ void ElSahl::dragTo(Point p) {
   followValues();
 }
 
+void ElSahl::moveLive(Point p) {
+  if (live_ && live_->goesTo(*this, p) && !takenAt(p)) placeSource(p);
+}
+
+void ElSahl::putBack() {
+  context_.shared.pigiX = pigiXBefore_;
+  context_.shared.pigiY = pigiYBefore_;
+  context_.shared.onlyWavesAsked = onlyWavesBefore_;
+  restore(beforePress_);
+}
+
 void ElSahl::dragEnded() {
+  if (live_ && live_->moved) putBack();
+  live_.reset();
   if (dragging()) {
     placeEdges(atPress_);
     followValues();

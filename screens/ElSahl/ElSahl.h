@@ -7,6 +7,8 @@
 #include "screens/ElSahl/Edges.h"
 #include "screens/ElSahl/SahlControls.h"
 #include "screens/ElSahl/SahlState.h"
+#include "screens/LiveSource.h"
+#include "screens/Shared.h"
 
 namespace lensbench {
 
@@ -86,7 +88,12 @@ class ElSahl : public DrawingScreen {
   // Draws the fan of a source there.
   void placeSource(Point p);
   void dragTo(Point p);
-  // The edges go back to where they were taken.
+  // The fan that the press sent is sent from p instead, if the pointer drags it and a press there
+  // would send one.
+  void moveLive(Point p);
+  // All is as it was before the press.
+  void putBack();
+  // The edges go back to where they were taken, and the fan to what was before it.
   void dragEnded();
   // Takes the hint away, which would only cover the picture.
   void hintUsed();
@@ -102,6 +109,8 @@ class ElSahl : public DrawingScreen {
   Easel<protosfakos::Shown> easel_{*this};
   SahlState beforePress_;              // of the mouse, as a drag that is left puts it back
   Variant pigiXBefore_, pigiYBefore_;  // likewise, the shared source
+  bool onlyWavesBefore_ = false;       // likewise, onlyWavesAsked
+  std::optional<LiveSource> live_;     // from a press that sent a fan to its release
   light::Diafragma atPress_;           // as the diaphragm was when the mouse took an edge
   double side_ = 0.0;                  // of the window with its frame, as it opens, twips
   QSizeF opening_ = canvas().size();   // of the drawing area then, logical pixels

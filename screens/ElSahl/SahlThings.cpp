@@ -101,9 +101,7 @@ void ElSahl::put(int thing, Point p) {
 
 bool ElSahl::leaveDrag() {
   if (!Form::endDrag()) return false;
-  context_.shared.pigiX = pigiXBefore_;
-  context_.shared.pigiY = pigiYBefore_;
-  restore(beforePress_);
+  putBack();
   return true;
 }
 

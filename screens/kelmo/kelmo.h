@@ -7,6 +7,7 @@
 #include "optics/poreiaaktinon/Picture.h"
 #include "screens/DrawingScreen.h"
 #include "screens/Easel.h"
+#include "screens/LiveSource.h"
 #include "screens/kelmo/Drag.h"
 #include "screens/kelmo/KelmoControls.h"
 #include "screens/kelmo/KelmoState.h"
@@ -153,6 +154,18 @@ class kelmo : public DrawingScreen {
   void take(Grab grab, Point p);
   Room room() const;
   void showDrag();
+  void placeDragged();
+  // The lens as it would be if the drag ended here.
+  poreiaaktinon::Fakos draggedLens() const;
+  // While following, what stands on the picture goes with the drag.
+  void followDrag();
+  // Whether a press there with Shift sends a fan.
+  bool sendsFan(Point p) const;
+  // The fan that the press sent is sent from p instead, if the pointer drags it and a press there
+  // would send one.
+  void moveLive(Point p);
+  // All is as it was before the press whose fan was dragged.
+  void dropLive();
   void showDraggedEdge(double centre, int radius);
   // Lets go what stands where it is seen.
   void release(const Drag& drag);
@@ -187,9 +200,10 @@ class kelmo : public DrawingScreen {
   std::optional<poreiaaktinon::Sent> set_;
   std::optional<poreiaaktinon::Standing> wiped_;  // what was cleared last, more than a lens alone
   Drag drag_;
-  KelmoState beforePress_;         // of the mouse, as a drag that is left puts it back
-  bool desmiBeforePress_ = false;  // likewise, desmiMode
-  int ticks_ = 0;                  // tick counter, the time index of the waves
+  KelmoState beforePress_;          // of the mouse, as a drag that is left puts it back
+  bool desmiBeforePress_ = false;   // likewise, desmiMode
+  std::optional<LiveSource> live_;  // from a press that sent a fan to its release
+  int ticks_ = 0;                   // tick counter, the time index of the waves
 };
 
 }  // namespace lensbench

@@ -28,11 +28,13 @@ void kelmo::Form_MouseDown(int Button, int Shift, double X, double Y) {
   const Point p{X, Y};
   beforePress_ = state();
   desmiBeforePress_ = context_.shared.desmiMode;
+  live_.reset();
   take(grabbedAt(p), p);
-  if ((Shift & shiftKey) == 0) return drawAnew();
+  if ((Shift & shiftKey) == 0) return drag_.grab == Grab::None ? wipe() : drawAnew();
+  if (sendsFan(p)) live_ = LiveSource{p};
   context_.shared.desmiMode = false;
   endRun();
-  if (drag_.grab == Grab::None && !insideLens(p, fakos())) return startFan(p);
+  if (live_) return startFan(p);
   clearAndDraw();
   if (controls_.Check2.Value()) prepareWavesInTime();
   add(poreiaaktinon::CardinalMarks{fakos(), n(), pigi()});
@@ -60,12 +62,18 @@ Room kelmo::room() const {
   return room;
 }
 
-void kelmo::Form_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y) {
+void kelmo::Form_MouseMove(int Button, int Shift, double X, double Y) {
   drag_.at = {X, Y};
+  if ((Button & leftButton) != 0 && (Shift & shiftKey) != 0) moveLive({X, Y});
   showDrag();
 }
 
 void kelmo::showDrag() {
+  placeDragged();
+  followDrag();
+}
+
+void kelmo::placeDragged() {
   switch (drag_.grab) {
     case Grab::None:
       return;
@@ -107,18 +115,24 @@ kelmo::Drag kelmo::endDrag() {
 }
 
 void kelmo::dropDrag() {
+  dropLive();
   const Drag dropped = endDrag();
+  if (dropped.grab == Grab::None) return;
   if (dropped.grab == Grab::Source) placeSource(dropped.pigi);
-  if (!takesDiaphragm(dropped.grab)) return;
-  placeDiaphragm(dropped.diafragma);
-  slidersFollowBlades();
-  // Waves that met the dragged blades go on as before.
-  if (running()) showFronts();
+  if (takesDiaphragm(dropped.grab)) {
+    placeDiaphragm(dropped.diafragma);
+    slidersFollowBlades();
+    // Waves that met the dragged blades go on as before.
+    if (running()) showFronts();
+  }
+  followValues();
 }
 
-void kelmo::Form_MouseUp(int Button, int /*Shift*/, double X, double Y) {
+void kelmo::Form_MouseUp(int Button, int Shift, double X, double Y) {
   if (Button != leftButton) return;
   drag_.at = {X, Y};
+  if (live_ && live_->moved && (Shift & shiftKey) != 0) moveLive({X, Y});
+  live_.reset();
   showDrag();
   release(endDrag());
   if (controls_.Check2.Value()) prepareWavesInTime();

@@ -66,6 +66,7 @@ void moniaktina::put(int thing, Point p) {
   Form_MouseDown(leftButton, 0, std::clamp(p.x, area.left, area.right),
                  std::clamp(p.y, area.lower, area.upper));
   dragEnded();
+  followValues();
 }
 
 bool moniaktina::leaveDrag() {
