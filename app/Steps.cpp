@@ -8,6 +8,18 @@
 
 namespace lensbench {
 
+namespace {
+
+bool movesWavesOnly(ProgramState before, ProgramState after) {
+  for (ProgramState* state : {&before, &after}) {
+    auto& values = state->kelmo.values;
+    if (values) values = withoutFronts(std::move(*values));
+  }
+  return before == after;
+}
+
+}  // namespace
+
 Steps::Steps(Screens& screens, Actions& actions) : screens_(screens), actions_(actions) {
   actions_.watchBy({[this](By by) { began(by); }, [this](By by) { ended(by); }});
   QCoreApplication::instance()->installEventFilter(this);
@@ -73,7 +85,11 @@ void Steps::end() {
   if (!history_) {
     history_.emplace(std::move(now));
   } else if (now != history_->present()) {
-    history_->push(std::move(now));
+    if (movesWavesOnly(history_->present(), now)) {
+      history_->amend(std::move(now));
+    } else {
+      history_->push(std::move(now));
+    }
   }
 }
 

@@ -22,7 +22,7 @@ class History {
 
   // A step: the next value is the present one, and what could be done again is gone.
   void push(Value next) {
-    values_.resize(present_ + 1, next);
+    while (stepsForth() > 0) values_.pop_back();
     values_.push_back(std::move(next));
     if (values_.size() > mostSteps + 1) values_.pop_front();
     present_ = values_.size() - 1;

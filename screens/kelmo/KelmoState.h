@@ -43,4 +43,7 @@ struct KelmoState {
 // The state to be kept: waves that run are at rest, and what is sent is without its traced paths.
 KelmoState kept(KelmoState state);
 
+// The state without the fronts of moving waves: how far they have come is no step of its own.
+KelmoState withoutFronts(KelmoState state);
+
 }  // namespace lensbench

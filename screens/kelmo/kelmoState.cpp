@@ -1,7 +1,6 @@
 // The workbench as a value, and back; and what stands on its picture, repeated with other values.
 #include "screens/kelmo/KelmoState.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -45,6 +44,14 @@ KelmoState kept(KelmoState state) {
   }
   state.standing = untraced(std::move(state.standing));
   if (state.wiped) state.wiped = untraced(std::move(*state.wiped));
+  return state;
+}
+
+KelmoState withoutFronts(KelmoState state) {
+  std::erase_if(state.standing.shown.layers, [](const poreiaaktinon::Layer& layer) {
+    return std::holds_alternative<poreiaaktinon::Fronts>(layer);
+  });
+  state.ticks = 0;
   return state;
 }
 

@@ -56,5 +56,31 @@ TEST(Actions, AnErrorLeavesTheNameOfTheActionThatMetIt) {
   EXPECT_EQ(actions.current(), "IBN SAHL");
 }
 
+TEST(Actions, TellTheBeginningAndTheEndOfTheOutermostOne) {
+  Actions actions;
+  Screen screen(actions);
+  std::vector<std::string> told;
+  actions.watchBy({[&](By) {
+                     EXPECT_FALSE(actions.running());
+                     told.emplace_back("began");
+                   },
+                   [&](By by) {
+                     EXPECT_FALSE(actions.running());
+                     told.emplace_back(by == By::Hand ? "ended" : "ended by itself");
+                   }});
+  screen.bar.Value(5);
+  EXPECT_EQ(told, (std::vector<std::string>{"began", "ended"}));
+  {
+    const ActionScope outer(actions, screen, By::Itself);
+    EXPECT_TRUE(actions.running());
+    screen.bar.Value(6);
+  }
+  EXPECT_EQ(told, (std::vector<std::string>{"began", "ended", "began", "ended by itself"}));
+  // An error is no end.
+  EXPECT_THROW(emit screen.entry.Click(), RuntimeError);
+  EXPECT_EQ(told.size(), 5u);
+  EXPECT_FALSE(actions.running());
+}
+
 }  // namespace
 }  // namespace lensbench
