@@ -92,15 +92,28 @@ void Screens::leaveIbnSahl() {
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }
 
-void Screens::undo() { steps_->undo(); }
+std::vector<DrawingScreen*> Screens::drawingScreens() const {
+  std::vector<DrawingScreen*> made;
+  if (kelmo_) made.push_back(kelmo_.get());
+  if (moniaktina_) made.push_back(moniaktina_.get());
+  if (ElSahl_) made.push_back(ElSahl_.get());
+  return made;
+}
 
-void Screens::redo() { steps_->redo(); }
+// A drag in progress is left first, for it is no step yet.
+void Screens::undo() {
+  for (DrawingScreen* screen : drawingScreens()) screen->leaveDrag();
+  steps_->undo();
+}
+
+void Screens::redo() {
+  for (DrawingScreen* screen : drawingScreens()) screen->leaveDrag();
+  steps_->redo();
+}
 
 void Screens::toggleFollow() {
   shared_.follow = !shared_.follow;
-  if (kelmo_) tellFollow(*kelmo_);
-  if (moniaktina_) tellFollow(*moniaktina_);
-  if (ElSahl_) tellFollow(*ElSahl_);
+  for (DrawingScreen* screen : drawingScreens()) tellFollow(*screen);
 }
 
 void Screens::tellFollow(Form& screen) const {

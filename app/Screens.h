@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "screens/Context.h"
 #include "screens/Moves.h"
@@ -9,6 +10,7 @@
 
 namespace lensbench {
 
+class DrawingScreen;
 class Form;
 class Help;
 class kelmo;
@@ -58,6 +60,8 @@ class Screens : public Moves {
  private:
   template <typename Screen>
   Screen& existing(std::unique_ptr<Screen>& screen);
+  // Those that have been made.
+  std::vector<DrawingScreen*> drawingScreens() const;
   // Says in the title of a drawing screen that it follows.
   void tellFollow(Form& screen) const;
 

@@ -99,13 +99,12 @@ TEST_F(Steps, CountsNoStepsForTicksAndStopsTheWavesThatItTakesBack) {
   openDiaphragm();
   c.kymatachronika.trigger();
   for (int i = 0; i < 30; ++i) tick();
-  EXPECT_TRUE(c.Timer1.Enabled());
-  ASSERT_EQ(stepsBack(), 3);
   c.aktina1.Value(150);
   for (int i = 0; i < 5; ++i) tick();
-  const int step = std::get<poreiaaktinon::Fronts>(bench.shown().layers.back()).step;
-  EXPECT_EQ(step, 5);
+  EXPECT_EQ(std::get<poreiaaktinon::Fronts>(bench.shown().layers.back()).step, 35);
+  EXPECT_TRUE(c.kymatachronika.Checked());
   EXPECT_EQ(stepsBack(), 4);
+  EXPECT_FALSE(tick());
 }
 
 TEST_F(Steps, LeavesRestoredWavesAtRestWithTheFrontsThatStoodThere) {
@@ -166,6 +165,20 @@ TEST_F(Steps, DropWhatCouldBeDoneAgainAtTheNextStep) {
   screens.redo();
   EXPECT_EQ(c.aktina1.Value(), 100);
   EXPECT_EQ(c.aktina2.Value(), 50);
+}
+
+TEST_F(Steps, LeaveADragThatIsNoStepYet) {
+  c.aktina1.Value(150);
+  press(bench, {0.0, 150.0});
+  moveTo(bench, {40.0, 150.0});
+  ASSERT_EQ(bench.diafragma().X, 40.0);
+  screens.undo();
+  EXPECT_EQ(bench.diafragma().X, 0.0);
+  EXPECT_EQ(c.aktina1.Value(), 100);
+  release(bench, {60.0, 150.0});
+  EXPECT_EQ(bench.diafragma().X, 0.0);
+  screens.redo();
+  EXPECT_EQ(c.aktina1.Value(), 150);
 }
 
 TEST_F(Steps, CoverTheLensMenuAndTheIbnSahlScreen) {
