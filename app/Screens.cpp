@@ -92,6 +92,8 @@ void Screens::leaveIbnSahl() {
 
 void Screens::End() { endProcess(EXIT_SUCCESS); }
 
+void Screens::startHistory() { steps_->start(); }
+
 std::vector<DrawingScreen*> Screens::drawingScreens() const {
   std::vector<DrawingScreen*> made;
   if (kelmo_) made.push_back(kelmo_.get());
@@ -138,6 +140,7 @@ void Main(Screens& screens) {
   deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
   menu.controls().Label1.Caption(labelled("Index of Refraction n=", formatHundredths(deiktisSahl)));
   deiktisSahl = menu.controls().deiktissahl.Value() / 100.0;
+  screens.startHistory();
 }
 
 }  // namespace lensbench

@@ -54,6 +54,9 @@ class Screens : public Moves {
   ProgramState state() const;
   void restore(const ProgramState& to);
 
+  // From here on what a person does is a step that can be taken back.
+  void startHistory();
+
   Shared& shared() noexcept { return shared_; }
   const Help& helpWindow() const noexcept { return *help_; }
 

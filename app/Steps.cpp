@@ -21,7 +21,7 @@ bool movesWavesOnly(ProgramState before, ProgramState after) {
 }  // namespace
 
 Steps::Steps(Screens& screens, Actions& actions) : screens_(screens), actions_(actions) {
-  actions_.watchBy({[this](By by) { began(by); }, [this](By by) { ended(by); }});
+  actions_.watchBy([this](By by) { ended(by); });
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -50,6 +50,8 @@ bool Steps::eventFilter(QObject* /*watched*/, QEvent* event) {
   return false;
 }
 
+void Steps::start() { history_.emplace(screens_.state()); }
+
 void Steps::hold() {
   // In a box that an action has opened.
   if (actions_.running()) return;
@@ -64,16 +66,9 @@ void Steps::letGo() {
       this, [this] { ended(By::Hand); }, Qt::QueuedConnection);
 }
 
-void Steps::began(By by) {
-  if (by == By::Hand) {
-    if (!history_) history_.emplace(screens_.state());
-  } else {
-    unended_ = history_ && history_->present() != screens_.state();
-  }
-}
-
 void Steps::ended(By by) {
   if (by == By::Hand) {
+    unended_ = true;
     if (!held_ && !actions_.running()) end();
   } else if (history_ && !unended_) {
     history_->amend(screens_.state());
@@ -81,15 +76,14 @@ void Steps::ended(By by) {
 }
 
 void Steps::end() {
+  unended_ = false;
+  if (!history_) return;
   ProgramState now = screens_.state();
-  if (!history_) {
-    history_.emplace(std::move(now));
-  } else if (now != history_->present()) {
-    if (movesWavesOnly(history_->present(), now)) {
-      history_->amend(std::move(now));
-    } else {
-      history_->push(std::move(now));
-    }
+  if (now == history_->present()) return;
+  if (movesWavesOnly(history_->present(), now)) {
+    history_->amend(std::move(now));
+  } else {
+    history_->push(std::move(now));
   }
 }
 
@@ -99,7 +93,7 @@ void Steps::redo() { go(&History<ProgramState>::forth); }
 
 void Steps::go(bool (History<ProgramState>::*step)()) {
   end();
-  if (!((*history_).*step)()) return;
+  if (!history_ || !((*history_).*step)()) return;
   screens_.restore(history_->present());
   // Fitted to windows of another size, it is the same step.
   history_->amend(screens_.state());

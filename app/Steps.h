@@ -24,6 +24,8 @@ class Steps : public QObject {
   Steps(const Steps&) = delete;
   Steps& operator=(const Steps&) = delete;
 
+  // Forgets all steps; from here on there are new ones.
+  void start();
   // Nothing where there is no step to take back, or none that was taken back.
   void undo();
   void redo();
@@ -33,7 +35,6 @@ class Steps : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void began(By by);
   void ended(By by);
   // What is held now begins a step.
   void hold();
@@ -44,9 +45,9 @@ class Steps : public QObject {
 
   Screens& screens_;
   Actions& actions_;
-  std::optional<History<ProgramState>> history_;  // from the first action on
+  std::optional<History<ProgramState>> history_;  // from the start on
   bool held_ = false;                             // a button or a key
-  bool unended_ = false;                          // what changes by itself does so during a step
+  bool unended_ = false;                          // a person has done something since the last step
 };
 
 }  // namespace lensbench

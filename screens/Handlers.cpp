@@ -20,7 +20,6 @@ QString nameOf(const QObject& sender) {
 
 ActionScope::ActionScope(Actions& actions, const QObject& sender, By by)
     : actions_(actions), outer_(actions.current_), by_(by) {
-  if (!actions_.running() && actions_.watch_.began) actions_.watch_.began(by_);
   ++actions_.depth_;
   actions_.current_ = nameOf(sender);
 }
@@ -29,7 +28,7 @@ ActionScope::~ActionScope() {
   --actions_.depth_;
   if (std::uncaught_exceptions() != errorsBefore_) return;
   actions_.current_ = outer_;
-  if (!actions_.running() && actions_.watch_.ended) actions_.watch_.ended(by_);
+  if (!actions_.running() && actions_.ended_) actions_.ended_(by_);
 }
 
 }  // namespace lensbench

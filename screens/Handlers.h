@@ -16,13 +16,9 @@ enum class By { Hand, Itself };
 
 class Actions {
  public:
-  // Is told when an action begins, and when it has ended without an error; of actions within
-  // others the outermost alone. Neither may throw.
-  struct Watch {
-    std::function<void(By)> began;
-    std::function<void(By)> ended;
-  };
-  void watchBy(Watch watch) { watch_ = std::move(watch); }
+  // Is told when an action has ended without an error, of actions within others the outermost
+  // alone; must not throw.
+  void watchBy(std::function<void(By)> ended) { ended_ = std::move(ended); }
   // Whether an action is being carried out.
   [[nodiscard]] bool running() const noexcept { return depth_ > 0; }
 
@@ -33,7 +29,7 @@ class Actions {
  private:
   friend class ActionScope;
   QString current_;
-  Watch watch_;
+  std::function<void(By)> ended_;
   int depth_ = 0;  // actions within actions
 };
 

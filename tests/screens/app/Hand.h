@@ -62,6 +62,7 @@ class HandTest : public ::testing::Test {
     screens.ElSahl().Hide();
     screens.leaveLensMenu();
     QApplication::processEvents();
+    screens.startHistory();
   }
 
   bool tick() {

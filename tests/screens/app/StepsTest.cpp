@@ -171,12 +171,12 @@ TEST_F(Steps, LeaveADragThatIsNoStepYet) {
   c.aktina1.Value(150);
   press(bench, {0.0, 150.0});
   moveTo(bench, {40.0, 150.0});
-  ASSERT_EQ(bench.diafragma().X, 40.0);
+  ASSERT_NEAR(bench.diafragma().X, 40.0, 1e-9);
   screens.undo();
-  EXPECT_EQ(bench.diafragma().X, 0.0);
+  EXPECT_NEAR(bench.diafragma().X, 0.0, 1e-9);
   EXPECT_EQ(c.aktina1.Value(), 100);
   release(bench, {60.0, 150.0});
-  EXPECT_EQ(bench.diafragma().X, 0.0);
+  EXPECT_NEAR(bench.diafragma().X, 0.0, 1e-9);
   screens.redo();
   EXPECT_EQ(c.aktina1.Value(), 150);
 }
@@ -218,6 +218,21 @@ class AnyWork : public Steps, public ::testing::WithParamInterface<unsigned> {
       now.pictures.push_back(form->isVisible() ? form->image().copy() : QImage());
     }
     return now;
+  }
+  // How far waves have moved is no step of its own.
+  static bool sameButForFronts(ProgramState a, ProgramState b) {
+    a.kelmo.values = withoutFronts(std::move(*a.kelmo.values));
+    b.kelmo.values = withoutFronts(std::move(*b.kelmo.values));
+    return a == b;
+  }
+  static std::string whatDiffers(const ProgramState& a, const ProgramState& b) {
+    std::string names;
+    if (!(a.shared == b.shared)) names += " shared";
+    if (!(a.kelmo == b.kelmo)) names += " kelmo";
+    if (!(a.moniaktina == b.moniaktina)) names += " moniaktina";
+    if (!(a.ElSahl == b.ElSahl)) names += " ElSahl";
+    if (!(a.eisagogiko == b.eisagogiko)) names += " eisagogiko";
+    return names;
   }
   int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
   Point somewhere() { return {below(400) - 200.0 + 0.5, below(240) - 120.0 + 0.25}; }
@@ -327,7 +342,12 @@ TEST_P(AnyWork, ComesBackStepByStepAndIsDoneAgain) {
     if (below(15) == 0) screens.toggleFollow();
     work();
     QApplication::processEvents();
-    if (!(screens.state() == records.back().state)) records.push_back(record());
+    const ProgramState now = screens.state();
+    if (sameButForFronts(now, records.back().state)) {
+      records.back() = record();
+    } else {
+      records.push_back(record());
+    }
     if (below(3) == 0 && tick()) records.back() = record();
   }
   ASSERT_GT(records.size(), 25u);
@@ -338,7 +358,8 @@ TEST_P(AnyWork, ComesBackStepByStepAndIsDoneAgain) {
       screens.undo();
       QApplication::processEvents();
       const Record now = record();
-      ASSERT_TRUE(now.state == records[i].state) << "back to " << i << " of " << records.size();
+      ASSERT_TRUE(now.state == records[i].state) << "back to " << i << " of " << records.size()
+                                                 << whatDiffers(now.state, records[i].state);
       ASSERT_TRUE(now.pictures == records[i].pictures) << "back to " << i;
       ASSERT_TRUE(showsItsValue(bench));
       ASSERT_FALSE(tick());
@@ -349,7 +370,8 @@ TEST_P(AnyWork, ComesBackStepByStepAndIsDoneAgain) {
       screens.redo();
       QApplication::processEvents();
       const Record now = record();
-      ASSERT_TRUE(now.state == records[i].state) << "again to " << i << " of " << records.size();
+      ASSERT_TRUE(now.state == records[i].state) << "again to " << i << " of " << records.size()
+                                                 << whatDiffers(now.state, records[i].state);
       ASSERT_TRUE(now.pictures == records[i].pictures) << "again to " << i;
     }
     screens.redo();
