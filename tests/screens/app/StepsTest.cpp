@@ -269,7 +269,7 @@ class AnyWork : public Steps, public ::testing::WithParamInterface<unsigned> {
         if (poreiaaktinon::rayCount(bench.vima()) <= 1501) c.kymatachronika.trigger();
         return;
       case 5:
-        return c.singleray.trigger();
+        return drag(bench);
       case 6:
         return c.SAHLIC.trigger();
       case 7:
