@@ -56,6 +56,7 @@ class HandTest : public ::testing::Test {
     boxes.messages.clear();
     Main(screens);
     screens.openSingleRay();
+    QApplication::processEvents();
     screens.leaveSingleRay();
     screens.openLensMenu();
     screens.openIbnSahl();
