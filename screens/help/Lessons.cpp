@@ -1,7 +1,5 @@
 #include "screens/help/Lessons.h"
 
-#include <array>
-
 namespace lensbench::lessons {
 namespace {
 
@@ -320,6 +318,14 @@ constexpr std::array<Lesson, 12> lessons{{
 }};
 
 }  // namespace
+
+std::array<Part, 5> parts(const Lesson& lesson) {
+  return {{{{"Τι βλέπεις", "What you see"}, lesson.see},
+           {{"Τι κάνεις", "What to do"}, lesson.act},
+           {{"Τι προσέχεις", "What to look for"}, lesson.look},
+           {{"Ερώτηση", "Question"}, lesson.question},
+           {{"Απάντηση", "Answer"}, lesson.answer}}};
+}
 
 std::span<const Lesson> all() { return lessons; }
 

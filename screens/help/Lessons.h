@@ -1,6 +1,7 @@
 // The lessons: their words, and what each of them puts on a screen.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -67,6 +68,13 @@ struct Lesson {
   Words answer;
   std::variant<OnWorkbench, OnSingleRay, OnIbnSahl> setup;
 };
+
+// A lesson piece by piece as it is read, each under its name.
+struct Part {
+  Words name;
+  Words words;
+};
+std::array<Part, 5> parts(const Lesson& lesson);
 
 // All of them, in the order in which they are taught. Their figures hold for what setup puts up.
 std::span<const Lesson> all();

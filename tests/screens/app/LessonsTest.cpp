@@ -6,12 +6,16 @@
 #include <string>
 #include <vector>
 
+#include <QFile>
+#include <QImage>
+
 #include "app/LessonSetup.h"
 #include "canvas/Format.h"
 #include "optics/light/OpticalPath.h"
 #include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "screens/ElSahl/ElSahl.h"
+#include "screens/help/Guide.h"
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
 #include "tests/screens/app/Shell.h"
@@ -90,6 +94,17 @@ TEST_F(LessonsTest, ThereAreTwelveAndEachIsWhole) {
     }
     EXPECT_EQ(lesson.question.english.back(), '?');
     EXPECT_EQ(lesson.question.greek.back(), ';');
+  }
+}
+
+TEST_F(LessonsTest, TheGuideHoldsThemAsTheyAre) {
+  QFile page(SOURCE_FOLDER "/docs/guide.md");
+  ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+  EXPECT_EQ(page.readAll().toStdString(), lessons::guide()) << "./run --guide writes it anew";
+  for (std::size_t i = 1; i <= lessons::all().size(); ++i) {
+    const QString picture =
+        SOURCE_FOLDER "/docs/" + QString::fromStdString(lessons::picturePath(i));
+    EXPECT_FALSE(QImage(picture).isNull()) << picture.toStdString();
   }
 }
 
