@@ -5,6 +5,7 @@
 
 #include "screens/DrawingScreen.h"
 #include "screens/Keys.h"
+#include "screens/help/Lessons.h"
 
 namespace lensbench {
 namespace {
@@ -32,7 +33,7 @@ constexpr Scope scopes[] = {
 
 HelpSection thingsOf(const Form& screen) {
   const auto* drawing = dynamic_cast<const DrawingScreen*>(&screen);
-  HelpSection section{screen.accessibleName(), {}, {}};
+  HelpSection section{screen.accessibleName(), {}, {}, {}, {}};
   if (drawing == nullptr) {
     section.lead =
         "Εδώ δεν υπάρχει εικόνα με πράγματα που πιάνονται.\n"
@@ -44,6 +45,32 @@ HelpSection thingsOf(const Form& screen) {
       "What can be taken on this screen, by the mouse or by keys:";
   for (const Thing& thing : drawing->things()) section.rows.push_back({thing.name, thing.words});
   return section;
+}
+
+QString text(const lessons::Words& words, const char* between) {
+  return QString::fromUtf8(words.greek) + QString::fromUtf8(between) +
+         QString::fromUtf8(words.english);
+}
+
+// What a lesson is called by the link that sets it up.
+QString linkOf(std::size_t lesson) { return QStringLiteral("lesson:%1").arg(lesson); }
+
+std::vector<HelpSection> lessonSections() {
+  std::vector<HelpSection> sections;
+  for (const lessons::Lesson& lesson : lessons::all()) {
+    const std::size_t number = sections.size();
+    HelpSection section{
+        QStringLiteral("Μάθημα · Lesson %1: ").arg(number + 1) + text(lesson.title, " · "),
+        {},
+        {},
+        linkOf(number),
+        QStringLiteral("Στήσε το · Set it up")};
+    for (const lessons::Part& part : parts(lesson)) {
+      section.rows.push_back({text(part.name, " · "), text(part.words, "\n")});
+    }
+    sections.push_back(std::move(section));
+  }
+  return sections;
 }
 
 // The screen that keys go to, or else one that is seen.
@@ -61,7 +88,7 @@ Form* formInFront() {
 std::vector<HelpSection> helpFor(const Form& screen) {
   std::vector<HelpSection> sections{thingsOf(screen)};
   for (const Scope& scope : scopes) {
-    HelpSection section{scope.heading, scope.lead, {}};
+    HelpSection section{scope.heading, scope.lead, {}, {}, {}};
     for (const Key& key : keys()) {
       if (key.scope != scope.scope) continue;
       section.rows.push_back(
@@ -69,10 +96,13 @@ std::vector<HelpSection> helpFor(const Form& screen) {
     }
     sections.push_back(std::move(section));
   }
+  for (HelpSection& lesson : lessonSections()) sections.push_back(std::move(lesson));
   return sections;
 }
 
-Help::Help() { connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Help::focusCameTo); }
+Help::Help(std::function<void(std::size_t)> setUp) : setUp_(std::move(setUp)) {
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Help::focusCameTo);
+}
 
 Help::~Help() = default;
 
@@ -83,6 +113,11 @@ void Help::open() {
     window_ = std::make_unique<HelpWindow>();
     window_->onClose = [this] {
       if (front_) front_->activateWindow();
+    };
+    window_->onLink = [this](const QString& link) {
+      for (std::size_t i = 0; i < lessons::all().size(); ++i) {
+        if (linkOf(i) == link) setUp_(i);
+      }
     };
   }
   tellOf(*screen);

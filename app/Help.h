@@ -1,7 +1,9 @@
-// What the help window says, and of which screen: the keys, and what can be taken on the screen
-// that is in front.
+// What the help window says, and of which screen: what can be taken on the screen that is in front,
+// the keys, and the lessons.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -21,7 +23,8 @@ std::vector<HelpSection> helpFor(const Form& screen);
 
 class Help : public QObject {
  public:
-  Help();
+  // What puts a lesson, counted from 0, on its screen.
+  explicit Help(std::function<void(std::size_t)> setUp);
   ~Help() override;
 
   // Opens the window for the screen in front, or brings it to the front.
@@ -37,6 +40,7 @@ class Help : public QObject {
   void focusCameTo(const QWindow* window);
   void tellOf(Form& screen);
 
+  std::function<void(std::size_t)> setUp_;
   std::unique_ptr<HelpWindow> window_;
   QPointer<Form> front_;
   bool stale_ = false;

@@ -4,6 +4,7 @@
 
 #include "app/Application.h"
 #include "app/Help.h"
+#include "app/LessonSetup.h"
 #include "app/Steps.h"
 #include "canvas/Format.h"
 #include "canvas/qt/Dialogs.h"
@@ -11,6 +12,7 @@
 #include "optics/protosfakos/Named.h"
 #include "screens/DisplayScale.h"
 #include "screens/ElSahl/ElSahl.h"
+#include "screens/Handlers.h"
 #include "screens/Texts.h"
 #include "screens/eisagogiko/eisagogiko.h"
 #include "screens/kelmo/kelmo.h"
@@ -21,7 +23,7 @@ namespace lensbench {
 // The routines that take no screen find theirs here, and make it when they are the first to.
 Screens::Screens(Dialogs& dialogs, Clock& clock, Actions& actions)
     : context_{*this, dialogs, clock, actions, shared_},
-      help_(std::make_unique<Help>()),
+      help_(std::make_unique<Help>([this](std::size_t lesson) { startLesson(lesson); })),
       steps_(std::make_unique<Steps>(*this, actions)) {
   poreiaaktinon::connectWorkbench({.canvas = [this]() -> Canvas& { return kelmo().canvas(); },
                                    .bench = [this] { return kelmo().bench(); },
@@ -129,6 +131,12 @@ void Screens::followIndex() {
 }
 
 void Screens::help() { help_->open(); }
+
+void Screens::startLesson(std::size_t number) {
+  // One step of the history.
+  const ActionScope scope(context_.actions, kelmo());
+  setUp(*this, lessons::all()[number]);
+}
 
 light::Diafragma Screens::diafragma() { return kelmo().diafragma(); }
 

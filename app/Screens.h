@@ -1,6 +1,7 @@
 // The four screens: created on first use, kept until the end, and the moves between them.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -48,6 +49,9 @@ class Screens : public Moves {
   void toggleFollow() override;
   void followIndex() override;
   light::Diafragma diafragma() override;
+
+  // Puts a lesson, counted from 0, on its screen, as one step of the history.
+  void startLesson(std::size_t number);
 
   // The screens that there are as a value to be kept, and as they were: with no action, box or
   // error, with waves at rest, and with the screens in front where something is different now.

@@ -18,20 +18,39 @@ constexpr int margin = 12;  // around the text
 constexpr int frame = 40;   // room for the window's own frame
 constexpr int clear = 24;   // of the sliders at the edges of a screen that it stands on
 
-QString inLines(const QString& words) {
-  return words.toHtmlEscaped().replace('\n', QStringLiteral("<br>"));
+// Greek and English side by side.
+QString inColumns(const QString& words) {
+  return QStringLiteral(
+             "<table width='100%'><tr><td width='50%' style='padding-right:12px'>%1</td>"
+             "<td width='50%'>%2</td></tr></table>")
+      .arg(words.section('\n', 0, 0).toHtmlEscaped(),
+           words.section('\n', 1).toHtmlEscaped().replace('\n', QStringLiteral("<br>")));
 }
 
-QString html(const HelpSection& section) {
-  QString page = QStringLiteral("<h3>%1</h3>").arg(section.heading.toHtmlEscaped());
-  if (!section.lead.isEmpty()) page += QStringLiteral("<p>%1</p>").arg(inLines(section.lead));
+QString html(const HelpSection& section, qsizetype number) {
+  QString page = QStringLiteral("<h3><a name='%1'></a>%2</h3>")
+                     .arg(number)
+                     .arg(section.heading.toHtmlEscaped());
+  if (!section.link.isEmpty()) {
+    page += QStringLiteral("<p><a href='%1'>%2</a></p>")
+                .arg(section.link.toHtmlEscaped(), section.linkName.toHtmlEscaped());
+  }
+  if (!section.lead.isEmpty()) page += inColumns(section.lead);
   for (const HelpSection::Row& row : section.rows) {
-    page += QStringLiteral(
-                "<p style='margin-bottom:2px'><b>%1</b></p>"
-                "<p style='margin-top:0; margin-left:16px'>%2</p>")
-                .arg(row.name.toHtmlEscaped(), inLines(row.words));
+    page += QStringLiteral("<p style='margin-bottom:2px'><b>%1</b></p>%2")
+                .arg(row.name.toHtmlEscaped(), inColumns(row.words));
   }
   return page;
+}
+
+// The headings of all sections, each a way to it.
+QString contents(const std::vector<HelpSection>& sections) {
+  QString page;
+  for (std::size_t i = 0; i < sections.size(); ++i) {
+    page +=
+        QStringLiteral("<a href='#%1'>%2</a><br>").arg(i).arg(sections[i].heading.toHtmlEscaped());
+  }
+  return QStringLiteral("<p>%1</p>").arg(page);
 }
 
 }  // namespace
@@ -44,6 +63,8 @@ HelpWindow::HelpWindow() : QWidget(nullptr, Qt::Dialog) {
   text_.setAccessibleName(QStringLiteral("Κείμενο βοήθειας · Help text"));
   text_.setFrameShape(QFrame::NoFrame);
   text_.document()->setDocumentMargin(margin);
+  text_.setOpenLinks(false);
+  connect(&text_, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(&text_);
@@ -56,10 +77,26 @@ void HelpWindow::show(const std::vector<HelpSection>& sections) {
                           sections_.front().heading == sections.front().heading;
   const int place = text_.verticalScrollBar()->value();
   sections_ = sections;
-  QString page;
-  for (const HelpSection& section : sections_) page += html(section);
+  QString page = contents(sections_);
+  qsizetype number = 0;
+  for (const HelpSection& section : sections_) page += html(section, number++);
   text_.setHtml(page);
-  text_.verticalScrollBar()->setValue(sameScreen ? place : 0);
+  if (sameScreen) {
+    text_.verticalScrollBar()->setValue(place);
+  } else if (reading_.isEmpty()) {
+    text_.verticalScrollBar()->setValue(0);
+  } else {
+    text_.scrollToAnchor(reading_);
+  }
+}
+
+void HelpWindow::follow(const QUrl& address) {
+  if (address.hasFragment()) return text_.scrollToAnchor(address.fragment());
+  const QString link = address.toString();
+  for (std::size_t i = 0; i < sections_.size(); ++i) {
+    if (sections_[i].link == link) reading_ = QString::number(i);
+  }
+  if (onLink) onLink(link);
 }
 
 void HelpWindow::stayAbove(const QWidget& screen) {
@@ -80,6 +117,7 @@ void HelpWindow::stayAbove(const QWidget& screen) {
 void HelpWindow::openBeside(const QWidget& screen) {
   if (!placed_) placeBeside(screen);
   placed_ = true;
+  reading_.clear();
   QWidget::show();
   raise();
   activateWindow();
@@ -89,7 +127,7 @@ void HelpWindow::openBeside(const QWidget& screen) {
 void HelpWindow::placeBeside(const QWidget& screen) {
   const QRect room = screen.screen()->availableGeometry();
   const QRect taken = screen.frameGeometry() & room;
-  const int wanted = std::min(60 * fontMetrics().averageCharWidth(), room.width());
+  const int wanted = std::min(80 * fontMetrics().averageCharWidth(), room.width());
   const int right = room.right() - taken.right();
   const int left = taken.left() - room.left();
   const int beside = std::max(left, right);

@@ -6,12 +6,13 @@
 
 #include <QString>
 #include <QTextBrowser>
+#include <QUrl>
 #include <QWidget>
 
 namespace lensbench {
 
-// A heading with a line under it, and rows of a name and words. Headings and names are Greek ·
-// English, words a Greek line and an English line; none need be there.
+// A heading with words under it, and rows of a name and words. Headings and names are Greek ·
+// English, words a Greek line and an English line, which stand side by side; none need be there.
 struct HelpSection {
   struct Row {
     QString name;
@@ -23,6 +24,9 @@ struct HelpSection {
   QString heading;
   QString lead;
   std::vector<Row> rows;
+  // Where the section can be followed to: a word for whoever listens, and what it is called.
+  QString link;
+  QString linkName;
 
   friend bool operator==(const HelpSection&, const HelpSection&) = default;
 };
@@ -39,7 +43,8 @@ class HelpWindow : public QWidget {
   // it; later where it was left.
   void openBeside(const QWidget& screen);
 
-  std::function<void()> onClose;  // after it has been closed
+  std::function<void()> onClose;               // after it has been closed
+  std::function<void(const QString&)> onLink;  // the link of a section was followed
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -47,8 +52,10 @@ class HelpWindow : public QWidget {
 
  private:
   void placeBeside(const QWidget& screen);
+  void follow(const QUrl& address);
 
   QTextBrowser text_;
+  QString reading_;  // the section whose link was followed last
   std::vector<HelpSection> sections_;
   bool placed_ = false;
 };

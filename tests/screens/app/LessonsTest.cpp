@@ -8,8 +8,11 @@
 
 #include <QFile>
 #include <QImage>
+#include <QTextBrowser>
 
+#include "app/Help.h"
 #include "app/LessonSetup.h"
+#include "app/ProgramState.h"
 #include "canvas/Format.h"
 #include "optics/light/OpticalPath.h"
 #include "optics/light/Vector.h"
@@ -105,6 +108,31 @@ TEST_F(LessonsTest, TheGuideHoldsThemAsTheyAre) {
     const QString picture =
         SOURCE_FOLDER "/docs/" + QString::fromStdString(lessons::picturePath(i));
     EXPECT_FALSE(QImage(picture).isNull()) << picture.toStdString();
+  }
+}
+
+TEST_F(LessonsTest, SettingOneUpIsOneStepThatUndoTakesBack) {
+  program.screens.moniaktina();
+  const ProgramState before = program.screens.state();
+  for (std::size_t i = 0; i < lessons::all().size(); ++i) {
+    program.screens.startLesson(i);
+    QCoreApplication::processEvents();
+    EXPECT_NE(program.screens.state(), before) << i;
+    program.screens.undo();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(program.screens.state(), before) << i;
+  }
+}
+
+TEST_F(LessonsTest, TheHelpWindowSetsThemUp) {
+  program.screens.help();
+  auto* text = program.screens.helpWindow().window()->findChild<QTextBrowser*>();
+  EXPECT_FALSE(program.screens.moniaktina().isVisible());
+  emit text->anchorClicked(QUrl("lesson:0"));
+  EXPECT_TRUE(program.screens.moniaktina().isVisible());
+  for (const lessons::Lesson& lesson : lessons::all()) {
+    EXPECT_TRUE(text->toPlainText().contains(QString::fromUtf8(lesson.answer.greek)));
+    EXPECT_TRUE(text->toPlainText().contains(QString::fromUtf8(lesson.answer.english)));
   }
 }
 
