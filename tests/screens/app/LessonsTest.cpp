@@ -87,6 +87,15 @@ void says(const lessons::Words& words, const std::string& figure) {
 }
 void says(const lessons::Words& words, double value) { says(words, formatHundredths(value)); }
 
+std::string pairOf(double x, double y) {
+  std::string text = "(";
+  text += formatHundredths(x);
+  text += ", ";
+  text += formatHundredths(y);
+  text += ')';
+  return text;
+}
+
 TEST_F(LessonsTest, ThereAreTwelveAndEachIsWhole) {
   ASSERT_EQ(lessons::all().size(), 12U);
   for (const lessons::Lesson& lesson : lessons::all()) {
@@ -197,8 +206,7 @@ TEST_F(LessonsTest, AVirtualImage) {
   const Point source = program.screens.kelmo().pigi();
   EXPECT_GT(source.x, points().F1);
   const Image image = imageOf(points(), source.x);
-  says(lesson.look, "(" + formatHundredths(image.x) + ", " +
-                        formatHundredths(image.magnification * source.y) + ")");
+  says(lesson.look, pairOf(image.x, image.magnification * source.y));
   says(lesson.look, image.magnification);
   EXPECT_LT(image.x, source.x);
 }
@@ -298,8 +306,8 @@ TEST_F(LessonsTest, IbnSahl) {
     ++meeting;
   }
   EXPECT_GT(meeting, 20);
-  says(lesson.look, "(" + formatHundredths(at.x) + ", " + formatHundredths(at.y) + ")");
-  says(lesson.answer, "(" + formatHundredths(-2.0 * scene.traced->a) + ", 0.00)");
+  says(lesson.look, pairOf(at.x, at.y));
+  says(lesson.answer, pairOf(-2.0 * scene.traced->a, 0.0));
 }
 
 TEST_F(LessonsTest, AnObliqueBundle) {
