@@ -282,8 +282,9 @@ TEST(AskLaws, CardinalPointsAndThinFociAgreeWithMatrices) {
                          {"H2: principal plane", trueF2 - f + shift, trueF2 - f, marks, 2}};
     for (const Mark& mark : all6) {
       const double x = static_cast<double>(mark.marked);
-      const std::string at = "(" + number(x) + ", 0)";
-      const std::string exact = "(" + number(static_cast<double>(mark.paraxial)) + ", 0)";
+      const std::string at = std::string("(") + number(x) + ", 0)";
+      const std::string exact =
+          std::string("(") + number(static_cast<double>(mark.paraxial)) + ", 0)";
       std::string expected = mark.name + ", f = " + number(static_cast<double>(f)) + ", at " + at;
       if (at != exact) expected += ", " + mark.meet + " at " + exact;
       const Point p{x, mark.kind == 2 ? random.real(20.0, 199.0) : 0.0};
@@ -321,8 +322,8 @@ TEST(AskLaws, ImagesAgreeWithTheLensFormula) {
     const Point exact = image(R1, R2);
     if (!(std::fabs(marked.x) < 1000.0 && std::fabs(marked.y) < 1000.0)) continue;
     if (!(std::fabs(exact.x) < 1e5 && std::fabs(exact.y) < 1e5)) continue;
-    const std::string at = "(" + number(marked.x) + ", " + number(marked.y) + ")";
-    const std::string other = "(" + number(exact.x) + ", " + number(exact.y) + ")";
+    const std::string at = std::string("(") + number(marked.x) + ", " + number(marked.y) + ")";
+    const std::string other = std::string("(") + number(exact.x) + ", " + number(exact.y) + ")";
     std::string expected = std::string("image: ") +
                            (marked.x >= std::min(xc1 + R1, xc2 + R2) ? "real" : "virtual") +
                            print(", magnification %.2f, at ", marked.y / source.y) + at;
