@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "canvas/Variant.h"
-#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
 
 namespace lensbench::poreiaaktinon {

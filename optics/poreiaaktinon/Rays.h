@@ -67,4 +67,15 @@ Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges);
 // The same rays through another bench or to other edges; the very same value when nothing differs.
 Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges);
 
+// The same picture on a drawing area with these edges: what its layers sent is traced to them.
+template <class Shown>
+Shown fittedTo(const light::Edges& edges, Shown shown) {
+  const auto fit = [&](auto& layer) {
+    if constexpr (requires { layer.sent; })
+      layer.sent = resent(layer.sent, layer.sent.bench, edges);
+  };
+  for (auto& layer : shown.layers) std::visit(fit, layer);
+  return shown;
+}
+
 }  // namespace lensbench::poreiaaktinon

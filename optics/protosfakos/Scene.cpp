@@ -53,10 +53,6 @@ struct Caster {
 
 }  // namespace
 
-bool operator==(const Fan& a, const Fan& b) {
-  return a.source.x == b.source.x && a.source.y == b.source.y;
-}
-
 Scene sceneOf(const Asked& asked) {
   const auto [a, b, c] = deriveLens(asked.deiktisSahl).value();
   return sceneOf(a, b, asked);

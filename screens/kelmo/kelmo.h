@@ -42,7 +42,7 @@ class kelmo : public DrawingScreen {
   // arxinizo: the lens scene as the controls say, over what is there.
   void arxinizo();
   // drawBundle: clears, then the scene and a bundle of parallel rays at an angle in radians.
-  void drawBundle(const Variant& angle);
+  void drawBundle(Variant angle);
   // drawWaveScene: clears, then what stands under moving waves.
   void drawWaveScene();
   // Bundles at the fixed angles -1 and +1 radian.

@@ -42,7 +42,7 @@ void kelmo::EPANALIPSI_Click() {
   controls_.parallilakymata.Checked(true);
 }
 
-void kelmo::drawBundle(const Variant& angle) {
+void kelmo::drawBundle(Variant angle) {
   context_.shared.desmiMode = true;
   clearAndDraw();
   sendRays(Desmi{angle.value(), controls_.desmi1.Value()});
