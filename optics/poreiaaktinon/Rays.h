@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -64,15 +65,17 @@ struct Sent {
 // Traces the rays. An index of 0 and a direction without length are Division by zero (11).
 Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges);
 
-// The same rays through another bench or to other edges; the very same value when nothing differs.
-Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges);
+// The same rays through another bench or to other edges; the very same value when nothing differs,
+// and known where that is what would be traced.
+Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges,
+            const std::optional<Sent>& known = {});
 
 // The same picture on a drawing area with these edges: what its layers sent is traced to them.
 template <class Shown>
-Shown fittedTo(const light::Edges& edges, Shown shown) {
+Shown fittedTo(const light::Edges& edges, Shown shown, const std::optional<Sent>& known = {}) {
   const auto fit = [&](auto& layer) {
     if constexpr (requires { layer.sent; })
-      layer.sent = resent(layer.sent, layer.sent.bench, edges);
+      layer.sent = resent(layer.sent, layer.sent.bench, edges, known);
   };
   for (auto& layer : shown.layers) std::visit(fit, layer);
   return shown;

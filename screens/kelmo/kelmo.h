@@ -188,6 +188,8 @@ class kelmo : public DrawingScreen {
   void waveTick(Timer& timer, MenuEntry& entry);
   // The fronts of the present step; the white scene under them follows the controls.
   void showFronts();
+  // Waves that met a dragged blade go on, or stand, as through the diaphragm before.
+  void passFronts(const poreiaaktinon::Diafragma& before);
   bool showsWaveScene() const;
   // True while a timer that a wave entry started moves the waves on their white scene.
   bool running() const;

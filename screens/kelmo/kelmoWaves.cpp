@@ -166,6 +166,18 @@ void kelmo::showFronts() {
   easel_.show(std::move(next));
 }
 
+void kelmo::passFronts(const poreiaaktinon::Diafragma& before) {
+  Shown next = shown();
+  for (poreiaaktinon::Layer& layer : next.layers) {
+    auto* fronts = std::get_if<Fronts>(&layer);
+    if (fronts == nullptr) continue;
+    poreiaaktinon::Bench bench = fronts->sent.bench;
+    bench.diafragma = before;
+    set_ = fronts->sent = poreiaaktinon::resent(fronts->sent, bench, edges());
+  }
+  easel_.show(std::move(next));
+}
+
 bool kelmo::showsWaveScene() const {
   return !shown().layers.empty() && std::holds_alternative<WaveScene>(shown().layers.front());
 }

@@ -66,10 +66,10 @@ void moniaktina::connectHandlers() {
 }
 
 void moniaktina::fitDisplay() {
-  fillDisplay();
   const bool firstTime = !canvas().hasUserScale();
   const double x = controls_.fos.Left() + controls_.fos.Width() / 2.0;
   const double y = controls_.fos.Top() + controls_.fos.Height() / 2.0;
+  fillDisplay();
   resized();
   if (!firstTime) return;
   // The window is as large as the display only once it is shown; there the source stands where it
