@@ -21,8 +21,6 @@ constexpr double twipsPerPixel = 15.0;
 struct Point {
   double x = 0.0;
   double y = 0.0;
-
-  friend bool operator==(const Point&, const Point&) = default;
 };
 
 // How a figure is stroked; width in (logical) pixels. A dotted pen dots only at width 1.

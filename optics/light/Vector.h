@@ -13,6 +13,7 @@ constexpr Point operator-(Point a, Point b) noexcept { return {a.x - b.x, a.y - 
 constexpr Point operator-(Point a) noexcept { return {-a.x, -a.y}; }
 constexpr Point operator*(double k, Point a) noexcept { return {k * a.x, k * a.y}; }
 constexpr double dot(Point a, Point b) noexcept { return a.x * b.x + a.y * b.y; }
+constexpr bool operator==(Point a, Point b) noexcept { return a.x == b.x && a.y == b.y; }
 constexpr bool isZero(Point a) noexcept { return a.x == 0.0 && a.y == 0.0; }
 // Positive when b lies counter-clockwise of a.
 constexpr double cross(Point a, Point b) noexcept { return a.x * b.y - a.y * b.x; }

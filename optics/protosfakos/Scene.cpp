@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <utility>
 
-#include "optics/light/Vector.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/Lens.h"
 

@@ -8,6 +8,7 @@
 
 #include "optics/light/RayPath.h"
 #include "optics/light/Stop.h"
+#include "optics/light/Vector.h"
 #include "optics/protosfakos/Waves.h"
 
 namespace lensbench::protosfakos {
