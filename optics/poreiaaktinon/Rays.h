@@ -70,14 +70,26 @@ Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges);
 Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges,
             const std::optional<Sent>& known = {});
 
+// Calls a function with what each layer of a picture sent.
+template <class Shown, class Visit>
+void visitSent(Shown& shown, const Visit& visit) {
+  const auto in = [&](auto& layer) {
+    if constexpr (requires { layer.sent; }) visit(layer.sent);
+  };
+  for (auto& layer : shown.layers) std::visit(in, layer);
+}
+
 // The same picture on a drawing area with these edges: what its layers sent is traced to them.
 template <class Shown>
 Shown fittedTo(const light::Edges& edges, Shown shown, const std::optional<Sent>& known = {}) {
-  const auto fit = [&](auto& layer) {
-    if constexpr (requires { layer.sent; })
-      layer.sent = resent(layer.sent, layer.sent.bench, edges, known);
-  };
-  for (auto& layer : shown.layers) std::visit(fit, layer);
+  visitSent(shown, [&](Sent& sent) { sent = resent(sent, sent.bench, edges, known); });
+  return shown;
+}
+
+// The same picture to be kept, without the traced paths; fittedTo traces them again.
+template <class Shown>
+Shown untraced(Shown shown) {
+  visitSent(shown, [](Sent& sent) { sent.paths.reset(); });
   return shown;
 }
 
