@@ -25,14 +25,14 @@ struct SahlControls {
   OptionButton RAYSANDWAVES{form_, "RAYSANDWAVES", raysWavesPlace};  // rays and wavefronts
   OptionButton kymataYESNO{form_, "kymataYESNO", onlyWavesPlace};    // wavefronts without rays
 
-  // lower edge of the diaphragm; its second end is the inner one
+  // Lower edge of the diaphragm; its second end is the inner one.
   DiaphragmEdge Line2{form_, "Line2", {1800, 1320, 1920, 2640}};
   DiaphragmEdge Line1{form_, "Line1", {360, 0, 360, 1200}};  // upper edge
   EdgeMark mark2{form_, "mark2", edgeColour};                // while the lower edge is out of sight
   EdgeMark mark1{form_, "mark1", edgeColour};                // while the upper edge is
   EdgeMark sourceMark{form_, "sourceMark", sourceColour};    // while the source is
 
-  // bundle of parallel rays
+  // Bundle of parallel rays.
   MenuEntry parallilidesmifotos{form_, "parallilidesmifotos", "PARALLILI  DESMH"};
   MenuEntry TELOS{form_, "TELOS", "END"};                   // end of the program
   MenuEntry kymatikosahl{form_, "kymatikosahl", "WAVES"};   // wavefronts

@@ -26,7 +26,7 @@ struct KelmoControls {
   // Puts every control at its place along the edges of a drawing area of this size, in pixels.
   void arrange(int width, int height);
 
-  // Those without a place of their own get one from the size of the drawing area.
+  // Controls whose place is {} get one from the size of the drawing area.
   MenuEntry singleray{form_, "singleray", "AKTINA RAY"};
   MenuEntry EPANALIPSI{form_, "EPANALIPSI", "// BUNDLE  DESMH"};
   MenuEntry SAHLIC{form_, "SAHLIC", "IBN SAHL"};
@@ -36,27 +36,27 @@ struct KelmoControls {
 
   ScrollBar aktina1{form_, "aktina1", Qt::Horizontal, {}};  // radius of the left circle
   TextBox Text6{form_, "Text6", {}};                        // radius of the left circle
-  // centre of the left circle
+  // Centre of the left circle.
   ScrollBar kentrokykloy2{form_, "kentrokykloy2", Qt::Horizontal, {}};
   ScrollBar aktina2{form_, "aktina2", Qt::Horizontal, {}};  // radius of the right circle
   TextBox Text5{form_, "Text5", {}};                        // radius of the right circle
-  // centre of the right circle
+  // Centre of the right circle.
   ScrollBar kentrokykloy{form_, "kentrokykloy", Qt::Horizontal, {}};
   TextBox Text7{form_, "Text7", {}};  // centre of the right circle
-  // index of refraction x 100
+  // Index of refraction x 100.
   ScrollBar deiktisdiathlasis{form_, "deiktisdiathlasis", Qt::Horizontal, {}};
   TextBox Text2{form_, "Text2", {}};  // index of refraction
-  // number of spaces between the rays of a bundle
+  // Number of spaces between the rays of a bundle.
   ScrollBar desmi1{form_, "desmi1", Qt::Horizontal, {}};
   TextBox Text1{form_, "Text1", {}};                            // number of rays of a fan
   ScrollBar arvimaton{form_, "arvimaton", Qt::Horizontal, {}};  // multiplier of the fan's step
   Label Label3{form_, "Label3", {}};                            // multiplier
   CheckBox Check1{form_, "Check1", {}};                         // rays and waves
   CheckBox Check2{form_, "Check2", {}};                         // waves only
-  // lower end of the upper blade, % of the half height
+  // Lower end of the upper blade, % of the half height.
   ScrollBar VScroll1{form_, "VScroll1", Qt::Vertical, {}};
   ScrollBar VScroll2{form_, "VScroll2", Qt::Vertical, {}};  // upper end of the lower blade
-  // abscissa of the diaphragm, % of the half width
+  // Abscissa of the diaphragm, % of the half width.
   ScrollBar HScroll1{form_, "HScroll1", Qt::Horizontal, {}};
   TextBox Text3{form_, "Text3", {}};  // opening of the diaphragm
   TextBox Text4{form_, "Text4", {}};  // abscissa of the diaphragm
@@ -66,9 +66,9 @@ struct KelmoControls {
   LineControl Line1{form_, "Line1", {}};      // upper blade
   LineControl Line2{form_, "Line2", {}};      // lower blade
   Shape pigi{form_, "pigi", {0, 0, 75, 75}};  // light source; its corner is the source
-  // marker of the left centre while it is dragged
+  // Marker of the left centre while it is dragged.
   Shape Shape1{form_, "Shape1", {0, 0, 135, 135}};
-  // marker of the right centre while it is dragged
+  // Marker of the right centre while it is dragged.
   Shape Shape2{form_, "Shape2", {0, 0, 135, 135}};
   Shape draggedEdge{form_, "draggedEdge", {}};  // the circle whose edge is dragged
   // Where blade ends and source stand when the drawing area does not show them.
