@@ -131,12 +131,12 @@ TEST_F(RunTest, ABladeThatOutlivesTheRunGoesBackWithTheFrontsThatItStopped) {
     wave.entry.trigger();
     ticks(wave.timer, 100);
     press(0.0, 199.5);
-    drag(-150.0, 20.0);
+    drag(-150.0, -60.0);
     ASSERT_EQ(ticks(wave.timer, 1000), 402) << "to the end of the run";
     EXPECT_TRUE(showsStep(240, wave.closed));
     const QImage stopped = picture();
     loseRelease();
-    drag(-140.0, 20.0);
+    drag(-140.0, -60.0);
     EXPECT_EQ(screen.set()->bench, screen.bench());
     EXPECT_TRUE(showsStep(240, wave.closed));
     EXPECT_FALSE(samePicture(picture(), stopped)) << "the blade had been in the way";
