@@ -76,6 +76,9 @@ struct Shown {
 // zero (11), in words, when one stands exactly above the other.
 Point aimedDirection(float xs, float ys, float xa, float ya);
 
+// Found by the pictures that they fit and leave untraced.
+using poreiaaktinon::fittedTo;
+using poreiaaktinon::untraced;
 void draw(Canvas& canvas, const Shown& shown);
 void redraw(Canvas& canvas, const Shown& from, const Shown& to);
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "optics/light/Vector.h"
 #include "optics/protosfakos/Hyperbola.h"
 #include "optics/protosfakos/Lens.h"
 
@@ -51,6 +52,10 @@ struct Caster {
 };
 
 }  // namespace
+
+bool operator==(const Fan& a, const Fan& b) {
+  return a.source.x == b.source.x && a.source.y == b.source.y;
+}
 
 Scene sceneOf(const Asked& asked) {
   const auto [a, b, c] = deriveLens(asked.deiktisSahl).value();

@@ -8,7 +8,6 @@
 
 #include "optics/light/RayPath.h"
 #include "optics/light/Stop.h"
-#include "optics/light/Vector.h"
 #include "optics/protosfakos/Waves.h"
 
 namespace lensbench::protosfakos {
@@ -19,9 +18,8 @@ using light::Diafragma;
 // leftwards. Optical paths are counted from the source.
 struct Fan {
   Point source;
-
-  friend bool operator==(const Fan&, const Fan&) = default;
 };
+bool operator==(const Fan& a, const Fan& b);
 
 // desmi: bundle of parallel rays of a slope from x = 130 leftwards, from y = 100 down to -100, 101
 // through the plano-convex lens and 201 through the biconvex one. Optical paths are counted from
