@@ -27,12 +27,12 @@ double squareSide() {
 
 void placeBeside(Form& form, double side) {
   if (form.movedByHand()) return;
-  const QSize room = display().availableGeometry().size();
+  const QRect room = display().availableGeometry();
   const bool beside = side + form.Width() <= room.width() * twipsPerPixel;
   const bool below = side + form.Height() <= room.height() * twipsPerPixel;
   if (!beside && !below) return;
-  form.Left(beside ? side : 0.0);
-  form.Top(beside ? 0.0 : side);
+  form.Left(room.x() * twipsPerPixel + (beside ? side : 0.0));
+  form.Top(room.y() * twipsPerPixel + (beside ? 0.0 : side));
 }
 
 }  // namespace lensbench

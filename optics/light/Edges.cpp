@@ -1,7 +1,5 @@
 #include "optics/light/Edges.h"
 
-#include <algorithm>
-
 namespace lensbench::light {
 namespace {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <variant>
 
@@ -51,12 +52,12 @@ using Face = std::variant<Circle, Hyperbola, Plane>;
 // Where the line of a ray is on the glass side of a face: distances along the ray from the foot of
 // the chord. For a circle that is the foot of the perpendicular from its centre, so that the ends
 // lie on the circle however far away the ray starts; for the other faces it is the start of the
-// ray. Infinite where the stretch is unbounded; from >= to where there is none.
+// ray. Infinite where the chord is unbounded; from >= to where there is none, as by default.
 struct Chord {
-  double aside = 0.0;  // of the foot from the origin, counter-clockwise across the ray
+  double from = std::numeric_limits<double>::infinity();
+  double to = -std::numeric_limits<double>::infinity();
   double start = 0.0;  // of the ray
-  double from = 0.0;
-  double to = 0.0;
+  double aside = 0.0;  // of the foot from the origin, counter-clockwise across the ray
 
   bool empty() const noexcept { return !(from < to); }
 };
@@ -82,7 +83,7 @@ inline Chord glassSide(const Circle& circle, const Ray& ray) {
   const double aside = dot(fromCentre, turned(ray.direction));
   const double rest = (circle.radius - aside) * (circle.radius + aside);
   const double half = rest > 0.0 ? std::sqrt(rest) : 0.0;
-  return {aside, dot(fromCentre, ray.direction), -half, half};
+  return {-half, half, dot(fromCentre, ray.direction), aside};
 }
 
 inline std::optional<Point> outwardNormal(const Circle& circle, Point fromCentre) {

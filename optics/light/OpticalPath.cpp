@@ -14,12 +14,6 @@ double opticalLength(const RayPath& path, const Piece& piece) {
   return indexOf(path, piece) * length(piece.to - piece.from);
 }
 
-double opticalLength(const RayPath& path) {
-  double sum = 0.0;
-  for (const Piece& piece : path.way()) sum += opticalLength(path, piece);
-  return sum;
-}
-
 Point pointOnPiece(const RayPath& path, const Piece& piece, double opticalPath) {
   const double whole = length(piece.to - piece.from);
   const double s = opticalPath / indexOf(path, piece);

@@ -13,8 +13,6 @@ double indexOf(const RayPath& path, const Piece& piece);
 
 // Optical length of a piece of a path, n times its length in the glass, user units.
 double opticalLength(const RayPath& path, const Piece& piece);
-// Of the whole path, from its start to its end.
-double opticalLength(const RayPath& path);
 
 // The point of a piece at an optical path counted from where the piece starts.
 Point pointOnPiece(const RayPath& path, const Piece& piece, double opticalPath);

@@ -4,8 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <optional>
-#include <variant>
 
 namespace lensbench::light {
 namespace {

@@ -11,7 +11,7 @@ constexpr double raysEnd = 500.0;  // how far out on the axis the constructed ra
 double thickness(const Fakos& fakos) { return (fakos.R1 + fakos.xc1) - (fakos.xc2 - fakos.R2); }
 
 // 1/f of the thick lens.
-Variant power(const Fakos& fakos, const Variant& n) {
+Variant power(const Fakos& fakos, Variant n) {
   const Variant R1 = fakos.R1;
   const Variant R2 = fakos.R2;
   const Variant P = (n - 1) / R1 + (n - 1) / R2;
@@ -93,8 +93,7 @@ void drawConstruction(Canvas& canvas, const CardinalPoints& points, Point source
   const double end = static_cast<double>(travel) * raysEnd;
   const Variant xS = source.x;
   const Variant yS = source.y;
-  const auto line = [&](const Variant& x1, const Variant& y1, const Variant& x2,
-                        const Variant& y2) {
+  const auto line = [&](Variant x1, Variant y1, Variant x2, Variant y2) {
     canvas.Line(x1.value(), y1.value(), x2.value(), y2.value(), palette::construction);
   };
   canvas.DrawWidth(palette::constructionWidth);

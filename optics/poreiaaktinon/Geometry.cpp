@@ -2,7 +2,7 @@
 
 namespace lensbench::poreiaaktinon {
 
-Variant toxoimitonou(const Variant& s) {
+Variant toxoimitonou(Variant s) {
   if (s > 1) return {};
   if (s == 1) return pi / 2.0;
   if (s == -1) return -pi / 2.0;
@@ -10,13 +10,13 @@ Variant toxoimitonou(const Variant& s) {
   return {};
 }
 
-Variant estiakiapostasi(const Variant& R1, const Variant& R2, const Variant& n) {
+Variant estiakiapostasi(Variant R1, Variant R2, Variant n) {
   const Variant D = (1 / R1 + 1 / R2) * (n - 1);
   if (D == 0) return {};
   return 1 / D;
 }
 
-SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Variant& r2) {
+SimeiaTomis tomikyklonapostasis(Variant d, Variant r1, Variant r2) {
   const Variant dd = d * d;
   const Variant rr1 = r1 * r1;
   const Variant rr2 = r2 * r2;
@@ -27,8 +27,7 @@ SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Varia
   return {x, y, x, -y, boolean(true)};
 }
 
-SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& ra,
-                            const Variant& rb) {
+SimeiaTomis tomikyklonaxona(Variant a, Variant b, Variant ra, Variant rb) {
   if (a == b) return {};
   const Variant d = b - a;
   const Variant h = (d + (ra * ra - rb * rb) / d) * 0.5;

@@ -12,11 +12,11 @@
 namespace lensbench::poreiaaktinon {
 
 // toxoimitonou: arc sine of s in radians, from the arc tangent; Empty where s is outside [-1, 1].
-Variant toxoimitonou(const Variant& s);
+Variant toxoimitonou(Variant s);
 
 // estiakiapostasi: focal length of a thin biconvex lens by the lensmaker's equation,
 // 1 / ((1/R1 + 1/R2)(n - 1)), radii as positive magnitudes; Empty when it is infinite.
-Variant estiakiapostasi(const Variant& R1, const Variant& R2, const Variant& n);
+Variant estiakiapostasi(Variant R1, Variant R2, Variant n);
 
 // SimeiaTomis: two points of intersection. found is true only when both are valid; look at it
 // first.
@@ -31,11 +31,10 @@ struct SimeiaTomis {
 // tomikyklonapostasis: the circle of radius r1 at the origin with that of radius r2 at (d, 0),
 // upper point first. Tangent circles count as found. d = 0 is Division by zero (11) unless the
 // radii make the circles miss.
-SimeiaTomis tomikyklonapostasis(const Variant& d, const Variant& r1, const Variant& r2);
+SimeiaTomis tomikyklonapostasis(Variant d, Variant r1, Variant r2);
 
 // tomikyklonaxona: two circles with centres (a, 0) and (b, 0) and radii ra and rb, upper point
 // first. Tangent circles count as found, concentric ones do not.
-SimeiaTomis tomikyklonaxona(const Variant& a, const Variant& b, const Variant& ra,
-                            const Variant& rb);
+SimeiaTomis tomikyklonaxona(Variant a, Variant b, Variant ra, Variant rb);
 
 }  // namespace lensbench::poreiaaktinon

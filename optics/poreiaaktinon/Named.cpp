@@ -18,20 +18,17 @@ ConnectedWorkbench& workbench() {
   return connected;
 }
 
-Variant square(const Variant& v) { return v * v; }
+Variant square(Variant v) { return v * v; }
 
-SinglePair pair(const Variant& x, const Variant& y) {
-  return {toSingle(x.value()), toSingle(y.value())};
-}
+SinglePair pair(Variant x, Variant y) { return {toSingle(x.value()), toSingle(y.value())}; }
 
-Point point(const Variant& x, const Variant& y) { return {x.value(), y.value()}; }
+Point point(Variant x, Variant y) { return {x.value(), y.value()}; }
 
-Fakos fakosOf(const Variant& xc1, const Variant& xc2, const Variant& R1, const Variant& R2) {
+Fakos fakosOf(Variant xc1, Variant xc2, Variant R1, Variant R2) {
   return {xc1.value(), R1.value(), xc2.value(), R2.value()};
 }
 
-SimeiaTomis verticalLine(const Variant& cx, const Variant& cy, const Variant& r,
-                         const Variant& px) {
+SimeiaTomis verticalLine(Variant cx, Variant cy, Variant r, Variant px) {
   const Variant q = square(r) - square(px - cx);
   if (q <= 0) return {};
   const Variant upper = cy + Sqr(q);
@@ -66,13 +63,13 @@ bool lineMeetsBoth(const Fakos& fakos, Point start, Point direction) {
 }
 
 // One ray to the edges of the canvas, with the diaphragm of the workbench.
-light::RayPath oneRay(const Canvas& canvas, const Fakos& fakos, const Variant& n, Point start,
+light::RayPath oneRay(const Canvas& canvas, const Fakos& fakos, Variant n, Point start,
                       Point direction) {
   const Bench bench{fakos, n.value(), workbench().bench().diafragma};
   return send(bench, SingleRay{start, direction}, light::edgesOf(canvas)).paths->front();
 }
 
-Rgb colourOf(const Variant& xroma) {
+Rgb colourOf(Variant xroma) {
   constexpr double largest = std::numeric_limits<std::uint32_t>::max();
   if (xroma < 0 || xroma > largest) throwOverflow();
   return {static_cast<std::uint32_t>(xroma.value())};
@@ -82,29 +79,27 @@ Rgb colourOf(const Variant& xroma) {
 
 void connectWorkbench(ConnectedWorkbench connected) { workbench() = std::move(connected); }
 
-double apostasi(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2) {
+double apostasi(Variant x1, Variant y1, Variant x2, Variant y2) {
   return Sqr(square(x1 - x2) + square(y1 - y2)).value();
 }
 
-SinglePair kathetos(const Variant& px, const Variant& py, const Variant& cx, const Variant& cy,
-                    const Variant& r) {
+SinglePair kathetos(Variant px, Variant py, Variant cx, Variant cy, Variant r) {
   return pair((px - cx) / r, (py - cy) / r);
 }
 
-Variant prosimo(const Variant& v) { return Sgn(v); }
+Variant prosimo(Variant v) { return Sgn(v); }
 
-Variant gonia(const Variant& ax, const Variant& ay, const Variant& bx, const Variant& by) {
+Variant gonia(Variant ax, Variant ay, Variant bx, Variant by) {
   const Variant lengths = Sqr(ax * ax + ay * ay) * Sqr(bx * bx + by * by);
   return toxoimitonou((ax * bx + ay * by) / lengths);
 }
 
-bool nearCircle(const Variant& first, const Variant& second, const Variant& r) {
+bool nearCircle(Variant first, Variant second, Variant r) {
   return first <= r * 1.00005 && second <= r * 1.000005;
 }
 
-SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Variant& r,
-                               const Variant& dx, const Variant& dy, const Variant& px,
-                               const Variant& py) {
+SimeiaTomis tomieytheiaskyklou(Variant cx, Variant cy, Variant r, Variant dx, Variant dy,
+                               Variant px, Variant py) {
   if (dx == 0) return verticalLine(cx, cy, r, px);
 
   const Variant m = dy / dx;
@@ -124,14 +119,13 @@ SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Varia
   return {x1.value(), y1.value(), x2.value(), y2.value(), boolean(found)};
 }
 
-SinglePair klasmaothonis(const Canvas& canvas, const Variant& x, const Variant& y) {
+SinglePair klasmaothonis(const Canvas& canvas, Variant x, Variant y) {
   const Variant height = canvas.ScaleHeight();
   return pair((x - canvas.ScaleLeft()) / canvas.ScaleWidth(),
               ((y - canvas.ScaleTop()) - height) / -height);
 }
 
-SinglePair orioothonis(const Canvas& canvas, const Variant& x0, const Variant& y0,
-                       const Variant& dx, const Variant& dy) {
+SinglePair orioothonis(const Canvas& canvas, Variant x0, Variant y0, Variant dx, Variant dy) {
   if (dx == 0 && dy == 0) return {};
   const double left = canvas.ScaleLeft();
   const double top = canvas.ScaleTop();
@@ -140,16 +134,15 @@ SinglePair orioothonis(const Canvas& canvas, const Variant& x0, const Variant& y
   return {toSingle(p.x), toSingle(p.y)};
 }
 
-Variant sxetikosdeiktis(const Variant& dx, const Variant& dy, const Variant& px, const Variant& py,
-                        const Variant& cx, const Variant& cy, const Variant& r, const Variant& n) {
+Variant sxetikosdeiktis(Variant dx, Variant dy, Variant px, Variant py, Variant cx, Variant cy,
+                        Variant r, Variant n) {
   const SinglePair u = kathetos(px, py, cx, cy, r);
   if (dx * u.x + dy * u.y < 0) return n;
   return 1 / n;
 }
 
-DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Variant& px,
-                              const Variant& py, const Variant& cx, const Variant& cy,
-                              const Variant& r, const Variant& n) {
+DiathlasiApotelesma diathlasi(Variant dx, Variant dy, Variant px, Variant py, Variant cx,
+                              Variant cy, Variant r, Variant n) {
   const Variant tx = (py - cy) / r;
   const Variant ty = (cx - px) / r;
   const Variant T0 = dx * tx + dy * ty;
@@ -165,9 +158,8 @@ DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Varian
   return {toSingle((T * tx - N * ty).value()), toSingle((T * ty + N * tx).value()), boolean(true)};
 }
 
-DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
-                                        const Variant& x0, const Variant& y0, const Variant& dx,
-                                        const Variant& dy) {
+DiafragmaApotelesma elegxosdiafragmatos(Variant X, Variant yA, Variant yB, Variant x0, Variant y0,
+                                        Variant dx, Variant dy) {
   if (dx != 0) static_cast<void>(dy / dx);  // raises where the slope is no number
   const Diafragma diafragma{X.value(), yA.value(), yB.value()};
   const double y = light::heightAt(diafragma, point(x0, y0), point(dx, dy));
@@ -175,9 +167,8 @@ DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, con
   return {toSingle(diafragma.X), toSingle(y), boolean(true)};
 }
 
-void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
-                     const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
-                     const Variant& px, const Variant& py, const Variant& tag) {
+void diadromiaktinas(DiadromiApotelesma& result, Variant xc1, Variant xc2, Variant R1, Variant R2,
+                     Variant dx, Variant dy, Variant px, Variant py, Variant tag) {
   const Fakos fakos = fakosOf(xc1, xc2, R1, R2);
   result = search(fakos, point(px, py), point(dx, dy));
   if (!circlesCross(fakos)) return;
@@ -186,28 +177,24 @@ void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Varia
   workbench().canvas().DrawWidth(1);
 }
 
-void diadromiaktinas2(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
-                      const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
-                      const Variant& px, const Variant& py) {
+void diadromiaktinas2(DiadromiApotelesma& result, Variant xc1, Variant xc2, Variant R1, Variant R2,
+                      Variant dx, Variant dy, Variant px, Variant py) {
   result = search(fakosOf(xc1, xc2, R1, R2), point(px, py), point(dx, dy));
 }
 
-void sxediasidesmis(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                    const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
-                    const Variant& R2, const Variant& n) {
+void sxediasidesmis(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy, Variant xc1,
+                    Variant xc2, Variant R1, Variant R2, Variant n) {
   drawPath(canvas, oneRay(canvas, fakosOf(xc1, xc2, R1, R2), n, point(px, py), point(dx, dy)));
 }
 
-void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                     const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
-                     const Variant& R2, const Variant& n, const Variant& phase) {
+void sxediasikymaton(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy, Variant xc1,
+                     Variant xc2, Variant R1, Variant R2, Variant n, Variant phase) {
   light::RayPath path = oneRay(canvas, fakosOf(xc1, xc2, R1, R2), n, point(px, py), point(dx, dy));
   path.phase = phase.value();
   drawWavePoints(canvas, path);
 }
 
-Sent bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1, const Variant& R2,
-                     const Variant& xs, const Variant& ys) {
+Sent bentaliaaktinon(Variant xc1, Variant xc2, Variant R1, Variant R2, Variant xs, Variant ys) {
   Canvas& canvas = workbench().canvas();
   Bench bench = workbench().bench();
   bench.fakos = fakosOf(xc1, xc2, R1, R2);
@@ -216,20 +203,19 @@ Sent bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1, 
   return sent;
 }
 
-void poreiamiasaktinas(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                       const Variant& dy, const Variant& /*mode*/, const Variant& xc2,
-                       const Variant& R1, const Variant& R2, const Variant& n) {
+void poreiamiasaktinas(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy,
+                       Variant /*mode*/, Variant xc2, Variant R1, Variant R2, Variant n) {
   drawPath(canvas, oneRay(canvas, fakosOf(0, xc2, R1, R2), n, point(px, py), point(dx, dy)),
            palette::airRay, palette::airRay);
 }
 
-void sxediasitoxou1(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& /*X2*/, const Variant& /*Y2*/) {
+void sxediasitoxou1(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant /*X2*/,
+                    Variant /*Y2*/) {
   drawRightFace(workbench().canvas(), fakosOf(xc1, xc2, R1, R2), palette::face);
 }
 
-void sxediasitoxou2(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& /*X2*/, const Variant& /*Y2*/, const Variant& xroma) {
+void sxediasitoxou2(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant /*X2*/,
+                    Variant /*Y2*/, Variant xroma) {
   const Fakos fakos = fakosOf(xc1, xc2, R1, R2);
   if (!hasLens(fakos)) return;
   drawLeftFace(workbench().canvas(), fakos, colourOf(xroma));

@@ -37,47 +37,44 @@ struct SinglePair {
 };
 
 // apostasi: distance of the points (x1, y1) and (x2, y2). Public vocabulary.
-double apostasi(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2);
+double apostasi(Variant x1, Variant y1, Variant x2, Variant y2);
 
 // kathetos: outward normal at (px, py) of the circle (cx, cy), r; of length 1 on the circle. Public
 // vocabulary.
-SinglePair kathetos(const Variant& px, const Variant& py, const Variant& cx, const Variant& cy,
-                    const Variant& r);
+SinglePair kathetos(Variant px, Variant py, Variant cx, Variant cy, Variant r);
 
 // prosimo: sign of v, 1, -1 or 0. Public vocabulary.
-Variant prosimo(const Variant& v);
+Variant prosimo(Variant v);
 
 // gonia: pi/2 less the angle between two vectors, in radians; where b is the tangent of a surface,
 // the signed angle of a to the surface normal. Public vocabulary.
-Variant gonia(const Variant& ax, const Variant& ay, const Variant& bx, const Variant& by);
+Variant gonia(Variant ax, Variant ay, Variant bx, Variant by);
 
 // Whether the two points that the slope form finds may stand for points of a circle of radius r, by
 // their distances from its centre: the first within 1.00005 r, the second within 1.000005 r. Kept
 // on purpose: the second ten times tighter, or lines would be found that this vocabulary misses.
-bool nearCircle(const Variant& first, const Variant& second, const Variant& r);
+bool nearCircle(Variant first, Variant second, Variant r);
 
 // tomieytheiaskyklou: the line through (px, py) along (dx, dy) with the circle (cx, cy), r; the
 // point of larger x first, of larger y on a vertical line. A tangent counts as not found; then both
 // points are (px, py), or (0, 0) for a vertical line. Slope form: a steep line loses digits, and
 // points too far from the circle (nearCircle) make it not found. Public vocabulary.
-SimeiaTomis tomieytheiaskyklou(const Variant& cx, const Variant& cy, const Variant& r,
-                               const Variant& dx, const Variant& dy, const Variant& px,
-                               const Variant& py);
+SimeiaTomis tomieytheiaskyklou(Variant cx, Variant cy, Variant r, Variant dx, Variant dy,
+                               Variant px, Variant py);
 
 // klasmaothonis: (x, y) as fractions of the drawing area, 0 at its left and bottom edges, 1 at its
 // right and top edges. Public vocabulary.
-SinglePair klasmaothonis(const Canvas& canvas, const Variant& x, const Variant& y);
+SinglePair klasmaothonis(const Canvas& canvas, Variant x, Variant y);
 
 // orioothonis: where a ray from (x0, y0) along (dx, dy) leaves the drawing area of a canvas whose y
 // grows upward; (0, 0) for the zero direction. A start outside the area is not treated specially,
 // so the point may lie behind it. As the pictures.
-SinglePair orioothonis(const Canvas& canvas, const Variant& x0, const Variant& y0,
-                       const Variant& dx, const Variant& dy);
+SinglePair orioothonis(const Canvas& canvas, Variant x0, Variant y0, Variant dx, Variant dy);
 
 // sxetikosdeiktis: relative index for a ray along (dx, dy) that crosses the circle (cx, cy), r at
 // (px, py): n into the circle, 1/n out of it or along its tangent. Public vocabulary.
-Variant sxetikosdeiktis(const Variant& dx, const Variant& dy, const Variant& px, const Variant& py,
-                        const Variant& cx, const Variant& cy, const Variant& r, const Variant& n);
+Variant sxetikosdeiktis(Variant dx, Variant dy, Variant px, Variant py, Variant cx, Variant cy,
+                        Variant r, Variant n);
 
 // DiathlasiApotelesma: unit direction of the refracted ray; ok false, direction (0, 0), at total
 // internal reflection.
@@ -89,9 +86,8 @@ struct DiathlasiApotelesma {
 // diathlasi: Snell's law, n1 sin a1 = n2 sin a2, for a ray along (dx, dy), of any length, that
 // meets the circle (cx, cy), r at (px, py); n is the index inside over that outside. r = 0, n = 0
 // or a zero direction is Division by zero (11). Public vocabulary.
-DiathlasiApotelesma diathlasi(const Variant& dx, const Variant& dy, const Variant& px,
-                              const Variant& py, const Variant& cx, const Variant& cy,
-                              const Variant& r, const Variant& n);
+DiathlasiApotelesma diathlasi(Variant dx, Variant dy, Variant px, Variant py, Variant cx,
+                              Variant cy, Variant r, Variant n);
 
 // DiafragmaApotelesma: the point where a ray is stopped, or its own start when it passes.
 struct DiafragmaApotelesma {
@@ -103,9 +99,8 @@ struct DiafragmaApotelesma {
 // from yB to yA, ends included, of a diaphragm on x = X. The whole line is tested, behind the start
 // too; a vertical ray is tested at its start, and one so steep that its slope is no number is
 // Overflow (6). As the pictures, save that an opening of height 0 lets its one point through.
-DiafragmaApotelesma elegxosdiafragmatos(const Variant& X, const Variant& yA, const Variant& yB,
-                                        const Variant& x0, const Variant& y0, const Variant& dx,
-                                        const Variant& dy);
+DiafragmaApotelesma elegxosdiafragmatos(Variant X, Variant yA, Variant yB, Variant x0, Variant y0,
+                                        Variant dx, Variant dy);
 
 // DiadromiApotelesma: the point where a ray meets the lens, the start point when it does not.
 struct DiadromiApotelesma {
@@ -118,47 +113,40 @@ struct DiadromiApotelesma {
 // on purpose: a point of exactly (0, 0) counts as not found, as the search marks no answer. Sets
 // the workbench's DrawWidth to 1 when the ray's line meets both circles. A tag beyond 16 bits is
 // Overflow (6). As the pictures.
-void diadromiaktinas(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
-                     const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
-                     const Variant& px, const Variant& py, const Variant& tag);
+void diadromiaktinas(DiadromiApotelesma& result, Variant xc1, Variant xc2, Variant R1, Variant R2,
+                     Variant dx, Variant dy, Variant px, Variant py, Variant tag);
 // diadromiaktinas2: the same search; no tag, and it leaves the workbench alone. As the pictures.
-void diadromiaktinas2(DiadromiApotelesma& result, const Variant& xc1, const Variant& xc2,
-                      const Variant& R1, const Variant& R2, const Variant& dx, const Variant& dy,
-                      const Variant& px, const Variant& py);
+void diadromiaktinas2(DiadromiApotelesma& result, Variant xc1, Variant xc2, Variant R1, Variant R2,
+                      Variant dx, Variant dy, Variant px, Variant py);
 
 // sxediasidesmis: traces and draws one ray of a fan or a bundle from (px, py) along (dx, dy), with
 // the diaphragm of the workbench. As the pictures.
-void sxediasidesmis(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                    const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
-                    const Variant& R2, const Variant& n);
+void sxediasidesmis(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy, Variant xc1,
+                    Variant xc2, Variant R1, Variant R2, Variant n);
 
 // sxediasikymaton: the wave points along the same ray; phase is the optical path at its start, 0
 // for a fan. As the pictures.
-void sxediasikymaton(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                     const Variant& dy, const Variant& xc1, const Variant& xc2, const Variant& R1,
-                     const Variant& R2, const Variant& n, const Variant& phase = 0);
+void sxediasikymaton(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy, Variant xc1,
+                     Variant xc2, Variant R1, Variant R2, Variant n, Variant phase = 0);
 
 // bentaliaaktinon: draws the fan from the source (xs, ys) on the workbench, with its index, step
 // and diaphragm, as rays, waves or both. Returns the rays. As the pictures.
-Sent bentaliaaktinon(const Variant& xc1, const Variant& xc2, const Variant& R1, const Variant& R2,
-                     const Variant& xs, const Variant& ys);
+Sent bentaliaaktinon(Variant xc1, Variant xc2, Variant R1, Variant R2, Variant xs, Variant ys);
 
 // poreiamiasaktinas: traces one ray from (px, py) along (dx, dy) and draws it in red on a canvas of
 // its own, with circle 1 about the origin and the diaphragm of the workbench. mode has no effect.
 // As the pictures.
-void poreiamiasaktinas(Canvas& canvas, const Variant& px, const Variant& py, const Variant& dx,
-                       const Variant& dy, const Variant& mode, const Variant& xc2,
-                       const Variant& R1, const Variant& R2, const Variant& n);
+void poreiamiasaktinas(Canvas& canvas, Variant px, Variant py, Variant dx, Variant dy, Variant mode,
+                       Variant xc2, Variant R1, Variant R2, Variant n);
 
 // sxediasitoxou1: draws the right face, an arc of circle 1, on the workbench in black at width 2;
 // nothing when there is no lens. (X2, Y2) is the lower end of the upper blade: the blade stands
 // before the lens and hides nothing of it. As the pictures.
-void sxediasitoxou1(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& X2, const Variant& Y2);
+void sxediasitoxou1(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant X2, Variant Y2);
 // sxediasitoxou2: the left face likewise, an arc of circle 2; xroma is its colour as a number with
 // red in the lowest byte, 0 for black; below 0 or beyond 32 bits it is Overflow (6).
-void sxediasitoxou2(const Variant& xc1, const Variant& R1, const Variant& xc2, const Variant& R2,
-                    const Variant& X2, const Variant& Y2, const Variant& xroma);
+void sxediasitoxou2(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant X2, Variant Y2,
+                    Variant xroma);
 
 // xaraktiristikasimeia: marks, construction for the light source, and labels of the workbench's
 // lens, on the workbench. Tests nothing, and takes light to travel to the right. As the pictures.

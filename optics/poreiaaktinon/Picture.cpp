@@ -14,13 +14,9 @@ void drawLayer(Canvas& canvas, const CardinalMarks& marks) {
 }
 void drawLayer(Canvas& canvas, const Light& light) { drawLight(canvas, light); }
 void drawLayer(Canvas& canvas, const WaveScene& scene) { drawWaveScene(canvas, scene); }
-void drawLayer(Canvas& canvas, const Fronts& fronts) {
-  drawFronts(canvas, fronts.sent, fronts.step);
-}
+void drawLayer(Canvas& canvas, const Fronts& fronts) { drawFronts(canvas, fronts); }
 
 namespace {
-
-void fit(const light::Edges& edges, Sent& sent) { sent = resent(sent, sent.bench, edges); }
 
 // The fronts of a picture that is a white scene with waves on it and nothing else.
 const Fronts* movingFronts(const Shown& shown) {
@@ -29,23 +25,6 @@ const Fronts* movingFronts(const Shown& shown) {
 }
 
 }  // namespace
-
-Shown fittedTo(const light::Edges& edges, const Shown& shown) {
-  Shown fitted = shown;
-  for (Layer& layer : fitted.layers) {
-    if (auto* light = std::get_if<Light>(&layer)) fit(edges, light->sent);
-    if (auto* fronts = std::get_if<Fronts>(&layer)) fit(edges, fronts->sent);
-  }
-  return fitted;
-}
-
-Shown untraced(Shown shown) {
-  for (Layer& layer : shown.layers) {
-    if (auto* light = std::get_if<Light>(&layer)) light->sent.paths.reset();
-    if (auto* fronts = std::get_if<Fronts>(&layer)) fronts->sent.paths.reset();
-  }
-  return shown;
-}
 
 void draw(Canvas& canvas, const Shown& shown) {
   canvas.Cls();
@@ -59,7 +38,7 @@ void redraw(Canvas& canvas, const Shown& from, const Shown& to) {
   if (before == nullptr || now == nullptr || from.layers[0] != to.layers[0]) {
     return draw(canvas, to);
   }
-  rubOutFronts(canvas, before->sent, before->step);
+  drawFronts(canvas, *before, white, white);
   // Rubbing out may have eaten of the scene, which hides behind no front.
   drawAdded(canvas, {}, to.layers);
 }

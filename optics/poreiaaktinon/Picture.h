@@ -70,11 +70,6 @@ struct Shown {
   friend bool operator==(const Shown&, const Shown&) = default;
 };
 
-// The same picture on a drawing area with these edges: what was sent is traced to them.
-Shown fittedTo(const light::Edges& edges, const Shown& shown);
-// The same picture to be kept, without the traced paths; fittedTo traces them again.
-Shown untraced(Shown shown);
-
 // Draws the picture from nothing; clears first. Leaves DrawWidth at 1, a solid pen and no fill.
 void draw(Canvas& canvas, const Shown& shown);
 

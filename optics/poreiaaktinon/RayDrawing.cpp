@@ -6,7 +6,7 @@
 #include "optics/light/Edges.h"
 #include "optics/light/OpticalPath.h"
 #include "optics/light/Vector.h"
-#include "optics/poreiaaktinon/Palette.h"
+#include "optics/poreiaaktinon/Fronts.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {
@@ -30,17 +30,7 @@ void drawFront(Canvas& canvas, const Front& front, Rgb colour) {
   canvas.DrawWidth(1);
 }
 
-void drawFronts(Canvas& canvas, const Sent& sent, int step, Rgb first, Rgb second) {
-  drawFront(canvas, frontAt(sent, pathPerStep * step), first);
-  if (step <= stepsBehind) return;
-  drawFront(canvas, frontAt(sent, pathPerStep * (step - stepsBehind)), second);
-}
-
 }  // namespace
-
-void drawPath(Canvas& canvas, const RayPath& path) {
-  drawPath(canvas, path, palette::airRay, palette::glassRay);
-}
 
 void drawPath(Canvas& canvas, const RayPath& path, Rgb air, Rgb glass) {
   canvas.DrawWidth(1);
@@ -88,12 +78,11 @@ void drawLight(Canvas& canvas, const Light& light) {
   }
 }
 
-void drawFronts(Canvas& canvas, const Sent& sent, int step) {
-  drawFronts(canvas, sent, step, palette::firstFront, palette::secondFront);
-}
-
-void rubOutFronts(Canvas& canvas, const Sent& sent, int step) {
-  drawFronts(canvas, sent, step, white, white);
+void drawFronts(Canvas& canvas, const Fronts& fronts, Rgb first, Rgb second) {
+  const auto& [sent, step] = fronts;
+  drawFront(canvas, frontAt(sent, pathPerStep * step), first);
+  if (step <= stepsBehind) return;
+  drawFront(canvas, frontAt(sent, pathPerStep * (step - stepsBehind)), second);
 }
 
 }  // namespace lensbench::poreiaaktinon

@@ -3,15 +3,14 @@
 
 #include "canvas/Canvas.h"
 #include "optics/light/RayPath.h"
-#include "optics/poreiaaktinon/Fronts.h"
+#include "optics/poreiaaktinon/Palette.h"
 #include "optics/poreiaaktinon/Picture.h"
 
 namespace lensbench::poreiaaktinon {
 
-// A traced ray at width 1, by default red in air and blue in the glass; a dot of width 4 where a
-// blade stops it.
-void drawPath(Canvas& canvas, const light::RayPath& path);
-void drawPath(Canvas& canvas, const light::RayPath& path, Rgb air, Rgb glass);
+// A traced ray at width 1, and a dot of width 4 where a blade stops it.
+void drawPath(Canvas& canvas, const light::RayPath& path, Rgb air = palette::airRay,
+              Rgb glass = palette::glassRay);
 
 // Optical path from one wave point of a ray to the next, user units.
 inline constexpr double waveStep = 10.0;
@@ -22,9 +21,9 @@ void drawWavePoints(Canvas& canvas, const light::RayPath& path);
 // Ray after ray, each with its wave points on it.
 void drawLight(Canvas& canvas, const Light& light);
 
-// Both fronts of moving waves at a step: the first, and from stepsBehind on the second.
-void drawFronts(Canvas& canvas, const Sent& sent, int step);
-// Takes away exactly what that drew.
-void rubOutFronts(Canvas& canvas, const Sent& sent, int step);
+// Both fronts of moving waves at a step: the first, and from stepsBehind on the second. Drawn again
+// in white they are gone.
+void drawFronts(Canvas& canvas, const Fronts& fronts, Rgb first = palette::firstFront,
+                Rgb second = palette::secondFront);
 
 }  // namespace lensbench::poreiaaktinon

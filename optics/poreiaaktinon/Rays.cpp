@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "canvas/Variant.h"
-#include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/Numbers.h"
 
 namespace lensbench::poreiaaktinon {
@@ -66,9 +65,11 @@ Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges) {
   return {bench, rays, edges, std::make_shared<const std::vector<RayPath>>(std::move(paths))};
 }
 
-Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges) {
-  if (sent.paths && sent.bench == bench && sent.edges == edges) return sent;
-  return send(bench, sent.rays, edges);
+Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges,
+            const std::optional<Sent>& known) {
+  const Sent wanted{bench, sent.rays, edges, {}};
+  if (sent.paths && sent == wanted) return sent;
+  return known == wanted && known->paths ? *known : send(bench, sent.rays, edges);
 }
 
 }  // namespace lensbench::poreiaaktinon

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -64,7 +65,32 @@ struct Sent {
 // Traces the rays. An index of 0 and a direction without length are Division by zero (11).
 Sent send(const Bench& bench, const Rays& rays, const light::Edges& edges);
 
-// The same rays through another bench or to other edges; the very same value when nothing differs.
-Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges);
+// The same rays through another bench or to other edges; the very same value when nothing differs,
+// and known where that is what would be traced.
+Sent resent(const Sent& sent, const Bench& bench, const light::Edges& edges,
+            const std::optional<Sent>& known = {});
+
+// Calls a function with what each layer of a picture sent.
+template <class Shown, class Visit>
+void visitSent(Shown& shown, const Visit& visit) {
+  const auto in = [&](auto& layer) {
+    if constexpr (requires { layer.sent; }) visit(layer.sent);
+  };
+  for (auto& layer : shown.layers) std::visit(in, layer);
+}
+
+// The same picture on a drawing area with these edges: what its layers sent is traced to them.
+template <class Shown>
+Shown fittedTo(const light::Edges& edges, Shown shown, const std::optional<Sent>& known = {}) {
+  visitSent(shown, [&](Sent& sent) { sent = resent(sent, sent.bench, edges, known); });
+  return shown;
+}
+
+// The same picture to be kept, without the traced paths; fittedTo traces them again.
+template <class Shown>
+Shown untraced(Shown shown) {
+  visitSent(shown, [](Sent& sent) { sent.paths.reset(); });
+  return shown;
+}
 
 }  // namespace lensbench::poreiaaktinon

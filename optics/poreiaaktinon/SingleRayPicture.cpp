@@ -63,13 +63,12 @@ void drawLayer(Canvas& canvas, const Ray& ray) {
   }
 }
 
-NoOutline noOutline(const Variant& R1, const Variant& R2, const Variant& xc2) {
+NoOutline noOutline(Variant R1, Variant R2, Variant xc2) {
   if (R1 == 0 || R2 == 0) return NoOutline::PointCircle;
   return xc2 == 0 && R1 == R2 ? NoOutline::SameCircle : NoOutline::None;
 }
 
-Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
-                  const Variant& deiktis) {
+Outline outlineOf(Variant R1, Variant R2, Variant xc1, Variant xc2, Variant deiktis) {
   const NoOutline reason = noOutline(R1, R2, xc2);
   if (reason == NoOutline::PointCircle) {
     divisionByZero(
@@ -105,21 +104,6 @@ Point aimedDirection(float xs, float ys, float xa, float ya) {
   // slope is positive, and upwards also when the ray was aimed down.
   if (Atn(Variant(dy) / Variant(dx)) == 2 * Atn(1)) return {0.0, 50.0};
   return {dx, dy};
-}
-
-Shown fittedTo(const light::Edges& edges, const Shown& shown) {
-  Shown fitted = shown;
-  for (Layer& layer : fitted.layers) {
-    if (auto* ray = std::get_if<Ray>(&layer)) ray->sent = resent(ray->sent, ray->sent.bench, edges);
-  }
-  return fitted;
-}
-
-Shown untraced(Shown shown) {
-  for (Layer& layer : shown.layers) {
-    if (auto* ray = std::get_if<Ray>(&layer)) ray->sent.paths.reset();
-  }
-  return shown;
 }
 
 void draw(Canvas& canvas, const Shown& shown) {

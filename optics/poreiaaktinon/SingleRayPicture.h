@@ -31,12 +31,11 @@ struct Outline {
 };
 // Why circles have no outline; circle 2 stands at xc2, circle 1 at the origin.
 enum class NoOutline { None, PointCircle, SameCircle };
-NoOutline noOutline(const Variant& R1, const Variant& R2, const Variant& xc2);
+NoOutline noOutline(Variant R1, Variant R2, Variant xc2);
 // Division by zero (11), in words, for a radius of 0 and for circles that are one and the same.
 // Kept on purpose: the half-angles are arc sines, which never exceed a right angle, so a face
 // of more than half a circle is outlined too short.
-Outline outlineOf(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2,
-                  const Variant& deiktis);
+Outline outlineOf(Variant R1, Variant R2, Variant xc1, Variant xc2, Variant deiktis);
 
 // The line from the source to where the ray is aimed.
 struct AimLine {
@@ -77,9 +76,9 @@ struct Shown {
 // zero (11), in words, when one stands exactly above the other.
 Point aimedDirection(float xs, float ys, float xa, float ya);
 
-Shown fittedTo(const light::Edges& edges, const Shown& shown);
-// The same picture to be kept, without the traced path; fittedTo traces it again.
-Shown untraced(Shown shown);
+// Found by the pictures that they fit and leave untraced.
+using poreiaaktinon::fittedTo;
+using poreiaaktinon::untraced;
 void draw(Canvas& canvas, const Shown& shown);
 void redraw(Canvas& canvas, const Shown& from, const Shown& to);
 

@@ -4,7 +4,7 @@
 
 namespace lensbench::protosfakos {
 
-std::optional<HyperbolaAxes> deriveLens(const Variant& n) {
+std::optional<HyperbolaAxes> deriveLens(Variant n) {
   constexpr double a = semiAxis;
   const double c = n.value() * a;
   if (c < a || !std::isfinite(c)) return std::nullopt;

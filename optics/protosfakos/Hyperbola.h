@@ -20,7 +20,7 @@ constexpr int semiAxis = 12;
 
 // a = 12, c = n·a, b = Sqr(c² - a²). Refused, never an error, for an index below 1 (c < a); n = 1
 // gives b = 0.
-std::optional<HyperbolaAxes> deriveLens(const Variant& n);
+std::optional<HyperbolaAxes> deriveLens(Variant n);
 
 // Abscissa of the rim, where the two faces of a lens meet, user units.
 constexpr double rimX(double a) noexcept { return 4.0 * a; }

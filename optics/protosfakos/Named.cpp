@@ -36,7 +36,7 @@ void tellArnhtiko() {
   room().screen.message("  ARNHTIKO");
 }
 
-void drawScene(const Variant& a, const Variant& b, bool amfikyrtos, const Rays& rays) {
+void drawScene(Variant a, Variant b, bool amfikyrtos, const Rays& rays) {
   Room& here = room();
   Asked asked = here.screen.asked();
   const Point pigi = pigiOf(asked);
@@ -56,7 +56,7 @@ void drawScene(const Variant& a, const Variant& b, bool amfikyrtos, const Rays& 
   if (traced.arnhtiko) tellArnhtiko();
 }
 
-void layFrontsOf(const Variant& k, Point start, double n) {
+void layFrontsOf(Variant k, Point start, double n) {
   if (!(std::fabs(k.value()) <= lastRay)) {
     throw RuntimeError(RuntimeError::Code::SubscriptOutOfRange);
   }
@@ -70,8 +70,7 @@ void layFrontsOf(const Variant& k, Point start, double n) {
 enum class Root { Plus, Minus };
 
 // root is the sign of √D for a line steeper than the asymptotes; it is the other one below that.
-Variant abscissa(Root root, const Variant& m, const Variant& q, const Variant& b,
-                 const Variant& a) {
+Variant abscissa(Root root, Variant m, Variant q, Variant b, Variant a) {
   const Variant asymptote = b / a;
   const Variant A = m * m - asymptote * asymptote;
   if (A == 0) return -(q * q + b * b) / (2 * m * q);
@@ -92,22 +91,21 @@ std::span<const Recorded> recordedRays() { return room().rays; }
 
 Variant plithosaktinon() { return room().plithosaktinon; }
 
-Variant toxoimitonoSahl(const Variant& s) { return Atn(s / Sqr(1 - s * s)); }
+Variant toxoimitonoSahl(Variant s) { return Atn(s / Sqr(1 - s * s)); }
 
-Variant apostasiSahl(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2) {
+Variant apostasiSahl(Variant x1, Variant y1, Variant x2, Variant y2) {
   return Sqr((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2));
 }
 
-Variant tomiyperbolis1(const Variant& m, const Variant& q, const Variant& b, const Variant& a) {
+Variant tomiyperbolis1(Variant m, Variant q, Variant b, Variant a) {
   return abscissa(Root::Plus, m, q, b, a);
 }
 
-Variant tomiyperbolis2(const Variant& m, const Variant& q, const Variant& b, const Variant& a) {
+Variant tomiyperbolis2(Variant m, Variant q, Variant b, Variant a) {
   return abscissa(Root::Minus, m, q, b, a);
 }
 
-void poreiaamfikyrtou(const Variant& a, const Variant& b, const Variant& m, const Variant& q,
-                      Variant& exitX, Variant& exitY) {
+void poreiaamfikyrtou(Variant a, Variant b, Variant m, Variant q, Variant& exitX, Variant& exitY) {
   const light::Lens lens = biconvex(a.value(), b.value(), room().screen.asked().deiktisSahl);
   const Variant x = 8 * a;
   const light::Ray ray = rayWithSlope({x.value(), (m * x + q).value()}, m.value(), Travel::Left);
@@ -116,29 +114,26 @@ void poreiaamfikyrtou(const Variant& a, const Variant& b, const Variant& m, cons
   exitY = emerged(path) ? Variant(record(path).exit.y) : Variant();
 }
 
-void sxediasiepipedokyrtou(const Variant& a, const Variant& b, const Variant& x0,
-                           const Variant& y0) {
+void sxediasiepipedokyrtou(Variant a, Variant b, Variant x0, Variant y0) {
   drawScene(a, b, false, Fan{{x0.value(), y0.value()}});
 }
 
-void sxediasiamfikyrtou(const Variant& a, const Variant& b, const Variant& x0, const Variant& y0) {
+void sxediasiamfikyrtou(Variant a, Variant b, Variant x0, Variant y0) {
   drawScene(a, b, true, Fan{{x0.value(), y0.value()}});
 }
 
-void desmiepipedokyrtou(const Variant& a, const Variant& b, const Variant& m) {
+void desmiepipedokyrtou(Variant a, Variant b, Variant m) {
   drawScene(a, b, false, Desmi{m.value()});
 }
 
-void desmiamfikyrtou(const Variant& a, const Variant& b, const Variant& m) {
-  drawScene(a, b, true, Desmi{m.value()});
-}
+void desmiamfikyrtou(Variant a, Variant b, Variant m) { drawScene(a, b, true, Desmi{m.value()}); }
 
-void kymatapigis(const Variant& k) {
+void kymatapigis(Variant k) {
   const Asked asked = room().screen.asked();
   layFrontsOf(k, pigiOf(asked), asked.deiktisSahl);
 }
 
-void kymatadesmis(const Variant& x, const Variant& y, const Variant& k) {
+void kymatadesmis(Variant x, Variant y, Variant k) {
   layFrontsOf(k, {x.value(), y.value()}, room().screen.asked().deiktisSahl);
 }
 

@@ -34,39 +34,37 @@ Variant plithosaktinon();
 
 // toxo imitono: arc sine in radians, as Atn(s / Sqr(1 - s·s)). s = 1 or -1 is Division by zero
 // (11), beyond that Invalid argument (5). Pictures refract without arc sines.
-Variant toxoimitonoSahl(const Variant& s);
+Variant toxoimitonoSahl(Variant s);
 
 // apostasi: distance of two points, user units. Pictures are traced without it.
-Variant apostasiSahl(const Variant& x1, const Variant& y1, const Variant& x2, const Variant& y2);
+Variant apostasiSahl(Variant x1, Variant y1, Variant x2, Variant y2);
 
 // tomi yperbolis: the abscissas where the line y = m·x + q meets the hyperbola x²/a² - y²/b² = 1,
 // on either branch. Empty when it does not. For a line parallel to an asymptote both give its one
 // intersection; for an asymptote itself (q = 0) that is Division by zero (11). Pictures are traced
 // without slopes, since this form loses all digits of a steep line.
-Variant tomiyperbolis1(const Variant& m, const Variant& q, const Variant& b, const Variant& a);
-Variant tomiyperbolis2(const Variant& m, const Variant& q, const Variant& b, const Variant& a);
+Variant tomiyperbolis1(Variant m, Variant q, Variant b, Variant a);
+Variant tomiyperbolis2(Variant m, Variant q, Variant b, Variant a);
 
 // poreia amfikyrtou: path through the biconvex lens. (exitX, exitY) is where the ray y = m·x + q,
 // travelling leftwards from x = 8a, leaves the lens; both Empty when it does not. Traces as
 // pictures are traced.
-void poreiaamfikyrtou(const Variant& a, const Variant& b, const Variant& m, const Variant& q,
-                      Variant& exitX, Variant& exitY);
+void poreiaamfikyrtou(Variant a, Variant b, Variant m, Variant q, Variant& exitX, Variant& exitY);
 
 // sxediasi epipedokyrtou, amfikyrtou: drawing of the plano-convex, the biconvex lens with a fan of
 // rays from (x0, y0), fronts counted from (pigiX, pigiY). desmi epipedokyrtou, amfikyrtou: the same
 // lenses with a bundle of slope m. Each sets the caption, forgets the rays recorded before and
 // draws what pictures draw, without clearing. a = 0 and an index of 0 are Division by zero (11). A
 // negative index makes optical lengths negative, which a message tells once for a scene.
-void sxediasiepipedokyrtou(const Variant& a, const Variant& b, const Variant& x0,
-                           const Variant& y0);
-void sxediasiamfikyrtou(const Variant& a, const Variant& b, const Variant& x0, const Variant& y0);
-void desmiepipedokyrtou(const Variant& a, const Variant& b, const Variant& m);
-void desmiamfikyrtou(const Variant& a, const Variant& b, const Variant& m);
+void sxediasiepipedokyrtou(Variant a, Variant b, Variant x0, Variant y0);
+void sxediasiamfikyrtou(Variant a, Variant b, Variant x0, Variant y0);
+void desmiepipedokyrtou(Variant a, Variant b, Variant m);
+void desmiamfikyrtou(Variant a, Variant b, Variant m);
 
 // kymata pigis: waves of the source. Lays the wave points of recorded ray k from (pigiX, pigiY), as
 // those of pictures are laid; k outside 0..500 is Subscript out of range (9).
-void kymatapigis(const Variant& k);
+void kymatapigis(Variant k);
 // kymata desmis: waves of the bundle. The same with (x, y) as start; Empty counts as 0.
-void kymatadesmis(const Variant& x, const Variant& y, const Variant& k);
+void kymatadesmis(Variant x, Variant y, Variant k);
 
 }  // namespace lensbench::protosfakos

@@ -1,6 +1,7 @@
 #include "screens/ElSahl/ElSahl.h"
 
 #include <algorithm>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -83,6 +84,7 @@ void ElSahl::connectHandlers() {
 void ElSahl::Form_Load() { strokesAt(strokeX); }
 
 void ElSahl::prepare() {
+  dragEnded();
   AutoRedraw(true);
   Top(0);
   Left(0);
@@ -258,8 +260,7 @@ void ElSahl::parallilidesmifotos_Click() {
 }
 
 void ElSahl::drawBundle(double degrees) {
-  const Variant pi = 4 * Atn(1);
-  const Variant m = Tan(pi * (degrees / 180));
+  const Variant m = Tan(std::numbers::pi * (degrees / 180));
   clear();
   drawOver(asked(protosfakos::Desmi{m.value()}));
 }

@@ -6,28 +6,11 @@
 namespace lensbench {
 namespace {
 
-constexpr Rgb edgeColour{0x00C00000};
 constexpr int edgeWidth = 3;  // pixels
-
-constexpr Place onlyWavesPlace{120, 0, 1455, 375};
-constexpr Place raysWavesPlace{1560, 0, 1335, 375};
-constexpr Place onlyRaysPlace{2880, 0, 1215, 375};
 
 }  // namespace
 
-SahlControls::SahlControls(Form& form)
-    : onlyrays(form, "onlyrays", onlyRaysPlace),
-      RAYSANDWAVES(form, "RAYSANDWAVES", raysWavesPlace),
-      kymataYESNO(form, "kymataYESNO", onlyWavesPlace),
-      Line2(form, "Line2", {1800, 1320, 1920, 2640}),
-      Line1(form, "Line1", {360, 0, 360, 1200}),
-      mark2(form, "mark2", edgeColour),
-      mark1(form, "mark1", edgeColour),
-      sourceMark(form, "sourceMark", sourceColour),
-      parallilidesmifotos(form, "parallilidesmifotos", "PARALLILI  DESMH"),
-      TELOS(form, "TELOS", "END"),
-      kymatikosahl(form, "kymatikosahl", "WAVES"),
-      BACKKELMO(form, "BACKKELMO", "BACK TO MENU") {
+SahlControls::SahlControls(Form& form) : form_(form) {
   setTexts();
   placeOptions(form.drawingArea()->width());
   QWidget::setTabOrder(&kymataYESNO, &RAYSANDWAVES);

@@ -10,12 +10,7 @@ constexpr int spare = 8;  // beside the widest line of the label, pixels
 
 }  // namespace
 
-MenuControls::MenuControls(Form& form)
-    : Command1(form, "Command1", {120, 600, 2220, 855}),
-      Command2(form, "Command2", {2280, 600, 2295, 855}),
-      deiktissahl(form, "deiktissahl", Qt::Horizontal, {360, 2280, 2535, 375}),
-      Command3(form, "Command3", {4680, 600, 2175, 855}),
-      Label1(form, "Label1", {3120, 2160, 1575, 735}) {
+MenuControls::MenuControls(Form& form) : form_(form) {
   deiktissahl.range(100, 250, 20, 150);
   setTexts();
   makeRoom(form);

@@ -3,60 +3,8 @@
 #include <iterator>
 
 namespace lensbench {
-namespace {
 
-constexpr double markerTwips = 135.0;
-constexpr double sourceTwips = 75.0;
-constexpr Rgb bladeColour = RGB(100, 100, 0);
-
-// Controls get their places from the size of the window.
-constexpr Place arranged{};
-
-// A shape of this diameter; where it stands is for the screen to say.
-constexpr Place ofDiameter(double twips) { return {0.0, 0.0, twips, twips}; }
-
-}  // namespace
-
-KelmoControls::KelmoControls(Form& form, Clock& clock)
-    : singleray(form, "singleray", "AKTINA RAY"),
-      EPANALIPSI(form, "EPANALIPSI", "// BUNDLE  DESMH"),
-      SAHLIC(form, "SAHLIC", "IBN SAHL"),
-      parallilakymata(form, "parallilakymata", "// WAVES  KYMATA"),
-      kymatachronika(form, "kymatachronika", "WAVES IN  TIME  XPONIKA"),
-      TELIOMA(form, "TELIOMA", "END"),
-      aktina1(form, "aktina1", Qt::Horizontal, arranged),
-      Text6(form, "Text6", arranged),
-      kentrokykloy2(form, "kentrokykloy2", Qt::Horizontal, arranged),
-      aktina2(form, "aktina2", Qt::Horizontal, arranged),
-      Text5(form, "Text5", arranged),
-      kentrokykloy(form, "kentrokykloy", Qt::Horizontal, arranged),
-      Text7(form, "Text7", arranged),
-      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal, arranged),
-      Text2(form, "Text2", arranged),
-      desmi1(form, "desmi1", Qt::Horizontal, arranged),
-      Text1(form, "Text1", arranged),
-      arvimaton(form, "arvimaton", Qt::Horizontal, arranged),
-      Label3(form, "Label3", arranged),
-      Check1(form, "Check1", arranged),
-      Check2(form, "Check2", arranged),
-      VScroll1(form, "VScroll1", Qt::Vertical, arranged),
-      VScroll2(form, "VScroll2", Qt::Vertical, arranged),
-      HScroll1(form, "HScroll1", Qt::Horizontal, arranged),
-      Text3(form, "Text3", arranged),
-      Text4(form, "Text4", arranged),
-      Label1(form, "Label1", arranged),
-      Label2(form, "Label2", arranged),
-      Line1(form, "Line1", {}),
-      Line2(form, "Line2", {}),
-      pigi(form, "pigi", ofDiameter(sourceTwips)),
-      Shape1(form, "Shape1", ofDiameter(markerTwips)),
-      Shape2(form, "Shape2", ofDiameter(markerTwips)),
-      draggedEdge(form, "draggedEdge", {}),
-      upperBladeMark(form, "upperBladeMark", bladeColour),
-      lowerBladeMark(form, "lowerBladeMark", bladeColour),
-      sourceMark(form, "sourceMark", sourceColour),
-      Timer1(form, "Timer1", clock),
-      Timer2(form, "Timer2", clock) {
+KelmoControls::KelmoControls(Form& form, Clock& clock) : form_(form), clock_(clock) {
   setRanges();
   setTexts();
   setShapes();

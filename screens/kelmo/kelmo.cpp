@@ -104,7 +104,7 @@ void kelmo::resized() {
   slidersFollowBlades();
   showDrag();
   if (set_) set_ = poreiaaktinon::resent(*set_, set_->bench, edges());
-  easel_.show(poreiaaktinon::fittedTo(edges(), shown()));
+  easel_.show(poreiaaktinon::fittedTo(edges(), shown(), set_));
 }
 
 double kelmo::vima() const {

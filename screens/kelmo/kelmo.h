@@ -42,7 +42,7 @@ class kelmo : public DrawingScreen {
   // arxinizo: the lens scene as the controls say, over what is there.
   void arxinizo();
   // drawBundle: clears, then the scene and a bundle of parallel rays at an angle in radians.
-  void drawBundle(const Variant& angle);
+  void drawBundle(Variant angle);
   // drawWaveScene: clears, then what stands under moving waves.
   void drawWaveScene();
   // Bundles at the fixed angles -1 and +1 radian.
@@ -188,6 +188,8 @@ class kelmo : public DrawingScreen {
   void waveTick(Timer& timer, MenuEntry& entry);
   // The fronts of the present step; the white scene under them follows the controls.
   void showFronts();
+  // Waves that met a dragged blade go on, or stand, as through the diaphragm before.
+  void passFronts(const poreiaaktinon::Diafragma& before);
   bool showsWaveScene() const;
   // True while a timer that a wave entry started moves the waves on their white scene.
   bool running() const;

@@ -122,8 +122,7 @@ void kelmo::dropDrag() {
   if (takesDiaphragm(dropped.grab)) {
     placeDiaphragm(dropped.diafragma);
     slidersFollowBlades();
-    // Waves that met the dragged blades go on as before.
-    if (running()) showFronts();
+    passFronts(dropped.diafragma);
   }
   followValues();
 }

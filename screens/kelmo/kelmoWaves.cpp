@@ -42,7 +42,7 @@ void kelmo::EPANALIPSI_Click() {
   controls_.parallilakymata.Checked(true);
 }
 
-void kelmo::drawBundle(const Variant& angle) {
+void kelmo::drawBundle(Variant angle) {
   context_.shared.desmiMode = true;
   clearAndDraw();
   sendRays(Desmi{angle.value(), controls_.desmi1.Value()});
@@ -163,6 +163,18 @@ void kelmo::showFronts() {
                   [](const auto& layer) { return std::holds_alternative<Fronts>(layer); });
   }
   if (ticks_ > 0) next.layers.emplace_back(Fronts{*set_, std::min(ticks_, lastDrawnStep)});
+  easel_.show(std::move(next));
+}
+
+void kelmo::passFronts(const poreiaaktinon::Diafragma& before) {
+  Shown next = shown();
+  for (poreiaaktinon::Layer& layer : next.layers) {
+    auto* fronts = std::get_if<Fronts>(&layer);
+    if (fronts == nullptr) continue;
+    poreiaaktinon::Bench bench = fronts->sent.bench;
+    bench.diafragma = before;
+    set_ = fronts->sent = poreiaaktinon::resent(fronts->sent, bench, edges());
+  }
   easel_.show(std::move(next));
 }
 

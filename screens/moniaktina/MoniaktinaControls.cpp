@@ -13,19 +13,7 @@ void widenFor(TextBox& box, const char* widestText) {
 
 }  // namespace
 
-MoniaktinaControls::MoniaktinaControls(Form& form)
-    : Text6(form, "Text6", {2760, 360, 1335, 375}),
-      aktina1(form, "aktina1", Qt::Horizontal, {0, 360, 2775, 375}),
-      Text5(form, "Text5", {2760, 0, 1335, 375}),
-      aktina2(form, "aktina2", Qt::Horizontal, {0, 0, 2775, 375}),
-      Text2(form, "Text2", {2520, 720, 2175, 375}),
-      deiktisdiathlasis(form, "deiktisdiathlasis", Qt::Horizontal, {0, 720, 2415, 375}),
-      Command1(form, "Command1", {4200, 120, 1335, 495}),
-      Text7(form, "Text7", {2520, 1080, 3135, 375}),
-      kentrokykloy(form, "kentrokykloy", Qt::Horizontal, {-120, 1080, 2655, 375}),
-      aim(form, "aim", {0, 0, 0, 0}),
-      fos(form, "fos", {1080, 2160, 135, 135}),
-      sourceMark(form, "sourceMark", sourceColour) {
+MoniaktinaControls::MoniaktinaControls(Form& form) : form_(form) {
   setRanges();
   setLooks();
   placeRows();

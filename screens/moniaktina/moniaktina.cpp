@@ -66,10 +66,10 @@ void moniaktina::connectHandlers() {
 }
 
 void moniaktina::fitDisplay() {
-  fillDisplay();
   const bool firstTime = !canvas().hasUserScale();
   const double x = controls_.fos.Left() + controls_.fos.Width() / 2.0;
   const double y = controls_.fos.Top() + controls_.fos.Height() / 2.0;
+  fillDisplay();
   resized();
   if (!firstTime) return;
   // The window is as large as the display only once it is shown; there the source stands where it
@@ -85,7 +85,7 @@ void moniaktina::resized() {
   scaleToClientArea(*this);
   controls_.placeSource(source);
   controls_.aim.between(source, aimedAt);
-  easel_.show(single::fittedTo(light::edgesOf(canvas()), easel_.shown()));
+  easel_.show(poreiaaktinon::fittedTo(light::edgesOf(canvas()), easel_.shown()));
 }
 
 void moniaktina::dragEnded() { controls_.aim.Visible(false); }
@@ -101,8 +101,7 @@ void moniaktina::drawLens() {
                 controls_.kentrokykloy.Value());
 }
 
-void moniaktina::sxediasifakoy(const Variant& R1, const Variant& R2, const Variant& xc1,
-                               const Variant& xc2) {
+void moniaktina::sxediasifakoy(Variant R1, Variant R2, Variant xc1, Variant xc2) {
   easel_.show({});
   push(single::LensAlone{single::outlineOf(R1, R2, xc1, xc2, deiktis)});
 }

@@ -28,7 +28,7 @@ class moniaktina : public DrawingScreen {
   void drawLens();
   // sxediasifakoy (draw lens): clears, and draws the faces and focal points of two circles on the
   // axis, of radius R1 at xc1 and of radius R2 at xc2, user units, with the index last read.
-  void sxediasifakoy(const Variant& R1, const Variant& R2, const Variant& xc1, const Variant& xc2);
+  void sxediasifakoy(Variant R1, Variant R2, Variant xc1, Variant xc2);
   // miaaktina (one ray): draws the lens of the scroll bars and the ray from the source, whose
   // centre (xs, ys) is, towards (xa, ya); user units.
   void miaaktina(float xs, float ys, float xa, float ya);

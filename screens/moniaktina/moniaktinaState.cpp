@@ -69,7 +69,7 @@ void moniaktina::restore(const MoniaktinaState& state) {
     c.fos.Top(state.corner.y);
   }
   aimed_ = state.aim;
-  easel_.show(single::fittedTo(edges, state.shown));
+  easel_.show(poreiaaktinon::fittedTo(edges, state.shown));
   warnOfLens();
 }
 

@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "canvas/Recording.h"
-#include "optics/light/OpticalPath.h"
 #include "optics/light/Vector.h"
 #include "optics/poreiaaktinon/RayDrawing.h"
 #include "tests/property/poreiaaktinon/IndependentTrace.h"
 #include "tests/property/poreiaaktinon/RandomBench.h"
+#include "tests/support/OpticalLength.h"
 
 namespace lensbench::poreiaaktinon {
 namespace {

@@ -30,6 +30,20 @@ TEST_F(ElSahlDrag, APressOnAnEdgeTakesItAndDrawsNothing) {
   EXPECT_EQ(108, shared.pigiX.value());
 }
 
+TEST_F(ElSahlDrag, OpeningTheScreenAnewLetsAHeldEdgeGo) {
+  for (const double y : {60.0, -60.0}) {
+    press(130, y);
+    ASSERT_TRUE(screen.syromenigrammi1 || screen.syromenigrammi2);
+    move(100, y / 2);
+    screen.prepare();
+    EXPECT_FALSE(screen.syromenigrammi1 || screen.syromenigrammi2);
+    expectEdges(130, 10, -10);
+    move(90, y / 2);
+    release(80, y / 2);
+    expectEdges(130, 10, -10);
+  }
+}
+
 TEST_F(ElSahlDrag, BesideAnEdgeAndInTheOpeningAPressPlacesTheSource) {
   for (const Point p : {Point{126.9, 60}, Point{133.1, 60}, Point{130, 9.9}, Point{130, -9.9}}) {
     press(p.x, p.y);

@@ -125,6 +125,24 @@ TEST_F(RunTest, WavesMeetTheBladeThatIsDraggedAndGoBackWhenItIsNotLetGo) {
   EXPECT_TRUE(showsStep(101, false));
 }
 
+TEST_F(RunTest, ABladeThatOutlivesTheRunGoesBackWithTheFrontsThatItStopped) {
+  for (const Wave& wave : waves()) {
+    SCOPED_TRACE(wave.entry.objectName().toStdString());
+    wave.entry.trigger();
+    ticks(wave.timer, 100);
+    press(0.0, 199.5);
+    drag(-150.0, -60.0);
+    ASSERT_EQ(ticks(wave.timer, 1000), 402) << "to the end of the run";
+    EXPECT_TRUE(showsStep(240, wave.closed));
+    const QImage stopped = picture();
+    loseRelease();
+    drag(-140.0, -60.0);
+    EXPECT_EQ(screen.set()->bench, screen.bench());
+    EXPECT_TRUE(showsStep(240, wave.closed));
+    EXPECT_FALSE(samePicture(picture(), stopped)) << "the blade had been in the way";
+  }
+}
+
 TEST_F(RunTest, BeforeTheFirstTickTheNewLensStandsAlone) {
   c.parallilakymata.trigger();
   c.aktina1.Value(120);
@@ -233,6 +251,20 @@ TEST_F(RunTest, MovingWavesGoOnAtTheNewSize) {
     ticks(timer, 1);
     EXPECT_TRUE(showsStep(141, fan));
   }
+}
+
+TEST_F(RunTest, TheRaysAreTracedOnceForTheirNewEdges) {
+  c.parallilakymata.trigger();
+  ticks(c.Timer2, 50);
+  giveSize({1300, 700});
+  const auto& fronts = std::get<Fronts>(screen.shown().layers.at(1));
+  EXPECT_EQ(fronts.sent.edges, edges());
+  EXPECT_EQ(fronts.sent.paths, screen.set()->paths);
+  sendBundle("10");
+  giveSize(usualSize);
+  const auto& light = std::get<poreiaaktinon::Light>(screen.shown().layers.at(1));
+  EXPECT_EQ(light.sent.edges, edges());
+  EXPECT_EQ(light.sent.paths, screen.set()->paths);
 }
 
 TEST_F(RunTest, AnotherPixelRatioOrOversamplingInARunLeavesNoTrace) {

@@ -55,6 +55,15 @@ TEST_F(MoniaktinaDisplayTest, SourceStandsWhereItIsDesignedWhenTheScreenIsOpened
   EXPECT_NEAR(c.fos.Width() * screen.canvas().mapping().xPixels, 9.0, 1e-9);
 }
 
+TEST_F(MoniaktinaDisplayTest, SourceStandsThereTooWhereTheWindowGetsItsSizeAtOnce) {
+  screen.show();
+  ASSERT_FALSE(screen.canvas().hasUserScale());
+  open();
+  EXPECT_NEAR(fosOnScreen().x(), 72, 2);
+  EXPECT_NEAR(fosOnScreen().y(), 144, 2);
+  EXPECT_NEAR(c.fos.Width() * screen.canvas().mapping().xPixels, 9.0, 1e-9);
+}
+
 TEST_F(MoniaktinaDisplayTest, LensFitsItselfToEverySize) {
   open();
   const Point source = middleOfFos();

@@ -1,8 +1,8 @@
 // Optical path and the points that a wave reaches.
 #include <gtest/gtest.h>
 
-#include "optics/light/OpticalPath.h"
 #include "optics/light/Tracer.h"
+#include "tests/support/OpticalLength.h"
 
 namespace lensbench::light {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "optics/light/OpticalPath.h"
 #include "optics/poreiaaktinon/RayDrawing.h"
+#include "tests/support/OpticalLength.h"
 #include "tests/unit/poreiaaktinon/FakeWorkbench.h"
 
 namespace lensbench::poreiaaktinon {

@@ -111,6 +111,17 @@ TEST(Resent, IsTheVerySameValueWhenNothingDiffers) {
   EXPECT_EQ(resent(sent, bench, testEdges).paths, sent.paths);
 }
 
+TEST(Resent, TakesWhatIsKnownWhereThatIsWhatWouldBeTraced) {
+  const light::Edges wide{-500.0, 500.0, -200.0, 200.0};
+  const Sent sent = send(bench, Desmi{0.3, 20}, testEdges);
+  const Sent known = send(bench, Desmi{0.3, 20}, wide);
+  EXPECT_EQ(resent(sent, bench, wide, known).paths, known.paths);
+  const Sent others = send(bench, Desmi{0.2, 20}, wide);
+  const Sent traced = resent(sent, bench, wide, others);
+  EXPECT_EQ(traced, known);
+  EXPECT_NE(traced.paths, others.paths);
+}
+
 TEST(Resent, TracesTheSameRaysThroughAnotherBenchOrToOtherEdges) {
   const Sent sent = send(bench, Desmi{0.0, 20}, testEdges);
   const Bench denser{bench.fakos, 2.0, std::nullopt};

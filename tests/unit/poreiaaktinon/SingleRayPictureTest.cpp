@@ -119,7 +119,7 @@ TEST(Shown, IsEqualWhenAllThatItWasDrawnWithIs) {
 
 TEST(FittedTo, TracesTheRayToTheNewEdges) {
   const light::Edges wide{-600.0, 600.0, -300.0, 300.0};
-  const Shown fitted = fittedTo(wide, {{aim, ray()}});
+  const Shown fitted = fittedTo(wide, Shown{{aim, ray()}});
   EXPECT_EQ(std::get<Ray>(fitted.layers[1]).sent.paths->front().end().x, 600.0);
 }
 
