@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <mutex>
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
 
@@ -50,6 +51,14 @@ void needDisplay() {
   toolkitsOwn = qInstallMessageHandler(watch);
   // A display that is gone is met by whoever writes to it next: as an error, not as a signal.
   std::signal(SIGPIPE, SIG_IGN);
+}
+
+void useOnlyDesktopBus() {
+  constexpr const char* address = "DBUS_SESSION_BUS_ADDRESS";
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  // Where a session's bus is found that is not told by its address.
+  const bool found = !runtime.isEmpty() && QFile::exists(runtime + QLatin1String("/bus"));
+  if (qEnvironmentVariableIsEmpty(address) && !found) qputenv(address, "disabled:");
 }
 
 void needGreekFont() {

@@ -9,6 +9,11 @@ namespace lensbench {
 // display can be lost too.
 void needDisplay();
 
+// The desktop's message bus where one runs, to be settled before there is an application; the only
+// one of these that may be missing. Left to itself, the bus library would then start a bus of its
+// own, which outlives the program and leaves a file at home.
+void useOnlyDesktopBus();
+
 // A font with Greek letters, to be asked for once there is an application: boxes teach nobody.
 void needGreekFont();
 

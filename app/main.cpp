@@ -11,6 +11,7 @@
 
 int main(int argc, char** argv) {
   lensbench::needDisplay();
+  lensbench::useOnlyDesktopBus();
   lensbench::QtClock clock;
   lensbench::QtDialogs dialogs(clock);
   lensbench::Actions actions;

@@ -15,7 +15,8 @@ namespace {
 // Pixels.
 constexpr int narrowest = 280;
 constexpr int margin = 12;  // around the text
-constexpr int frame = 40;   // room for the window's own frame
+constexpr int frame = 40;   // room for the window's own frame, above and below
+constexpr int sides = 10;   // and beside it
 constexpr int clear = 24;   // of the sliders at the edges of a screen that it stands on
 
 // Greek and English side by side.
@@ -132,9 +133,9 @@ void HelpWindow::placeBeside(const QWidget& screen) {
   const int left = taken.left() - room.left();
   const int beside = std::max(left, right);
   if (beside >= narrowest) {
-    const int width = std::min(wanted, beside);
-    const int x = right >= left ? taken.right() + 1 : taken.left() - width;
-    setGeometry(x, room.top() + frame, width, std::max(room.height() - 2 * frame, narrowest));
+    const int width = std::min(wanted, beside - sides);
+    resize(width, std::max(room.height() - 2 * frame, narrowest));
+    move(right >= left ? taken.right() + 1 : taken.left() - width - sides, room.top());
     return;
   }
   const QSize size(wanted, room.height() * 2 / 3);

@@ -73,7 +73,7 @@ TEST_F(HelpTest, IsNotModalAndThereIsOneOfIt) {
 TEST_F(HelpTest, FollowsWhichScreenIsInFront) {
   open(screens.kelmo());
   screens.kelmo().controls().singleray.trigger();
-  QApplication::processEvents();
+  QTest::qWait(50);
   expectThingsOf(screens.moniaktina());
   screens.moniaktina().controls().Command1.click();
   screens.openLensMenu();
@@ -131,7 +131,11 @@ TEST_F(HelpTest, StandsBesideTheIbnSahlWindowWhereThereIsRoom) {
   screens.ElSahl().resize(400, 400);
   QApplication::processEvents();
   open(screens.ElSahl());
-  EXPECT_FALSE(window()->frameGeometry().intersects(screens.ElSahl().frameGeometry()));
+  const QRect help = window()->frameGeometry();
+  const QRect sahl = screens.ElSahl().frameGeometry();
+  EXPECT_FALSE(help.intersects(sahl))
+      << help.x() << ' ' << help.y() << ' ' << help.width() << ' ' << help.height() << " and "
+      << sahl.x() << ' ' << sahl.y() << ' ' << sahl.width() << ' ' << sahl.height();
 }
 
 }  // namespace

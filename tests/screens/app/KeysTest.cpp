@@ -113,6 +113,7 @@ TEST_F(ScreenKeysTest, TheSingleRayIsPlacedAimedAndSent) {
 
 TEST_F(ScreenKeysTest, ThePictureFollowsFullScreenAndBack) {
   kelmo& bench = screens.kelmo();
+  QTest::qWait(150);
   const QSize before = bench.drawingArea()->size();
   QTest::keyClick(&bench, Qt::Key_F11);
   QTest::qWait(150);
