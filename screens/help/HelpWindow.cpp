@@ -22,7 +22,8 @@ constexpr int clear = 24;   // of the sliders at the edges of a screen that it s
 // Greek and English side by side.
 QString inColumns(const QString& words) {
   return QStringLiteral(
-             "<table width='100%'><tr><td width='50%' style='padding-right:12px'>%1</td>"
+             "<table width='96%' cellspacing='0' cellpadding='0'><tr><td width='49%' "
+             "style='padding-right:6px'>%1</td>"
              "<td width='50%'>%2</td></tr></table>")
       .arg(words.section('\n', 0, 0).toHtmlEscaped(),
            words.section('\n', 1).toHtmlEscaped().replace('\n', QStringLiteral("<br>")));
