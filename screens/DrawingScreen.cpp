@@ -52,8 +52,10 @@ QString DrawingScreen::tipAt(Point p) const {
   const auto answer = ask(p, reach / std::fabs(map.xPixels));
   const auto answered = [&] { return QString::fromStdString(answer->text); };
   if (const auto taken = takenAt(p)) {
-    const QString words = thingOf(*taken)->words;
-    return answer && answer->event ? words + QLatin1Char('\n') + answered() : words;
+    const Thing thing = *thingOf(*taken);
+    // What the picture itself calls by the same place needs no second name.
+    const bool more = answer && (answer->event || distance(answer->at, thing.at) > 0.0);
+    return more ? thing.words + QLatin1Char('\n') + answered() : thing.words;
   }
   if (answer && answer->event) return answered();
   for (const Thing& thing : things()) {

@@ -48,8 +48,8 @@ class DrawingScreen : public Form {
   // Where the keyboard is among the things.
   ThingFocus& thingFocus() noexcept { return thingFocus_; }
 
-  // What a tool tip says there: what a press would take and what happens to a ray there, or else
-  // what is drawn there, or else the hint of the drawing area, or else where help is.
+  // What a tool tip says there: what a press would take and what is drawn, or else the hint of the
+  // drawing area, or else where help is.
   QString tipAt(Point p) const;
 
  protected:

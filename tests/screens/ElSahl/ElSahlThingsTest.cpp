@@ -78,6 +78,7 @@ TEST_F(ElSahlThingsTest, WhatIsPutIsAsTheMouseLetsItGo) {
       screen.restore(before);
       screen.put(thing.id, asTold(screen, to));
       EXPECT_TRUE(screen.state() == dragged) << thing.name.toStdString();
+      screen.restore(before);
     }
   }
 }

@@ -196,6 +196,18 @@ TEST_F(ThingsTest, ATipNamesWhatThePointerRestsOnAndGoesWhenItLeaves) {
   EXPECT_GT(stopped, 2);
 }
 
+TEST_F(ThingsTest, WhatStandsInTheOpeningIsNamedBesideTheDiaphragm) {
+  openDiaphragm();
+  const QString centre = screen.tipAt({screen.xc1(), 0.0});
+  EXPECT_EQ(centre.count('\n'), 1) << centre.toStdString();
+  // The bar moves the diaphragm through the left centre, which is within its reach then.
+  c.HScroll1.Value(-12);
+  ASSERT_EQ(screen.takenAt({screen.xc1(), 0.0}), static_cast<int>(Grab::Diaphragm));
+  const QString tip = screen.tipAt({screen.xc1(), 0.0});
+  EXPECT_TRUE(tip.contains("Diaphragm at x = -48")) << tip.toStdString();
+  EXPECT_TRUE(tip.contains("centre of the left circle")) << tip.toStdString();
+}
+
 TEST_F(ThingsTest, AFingerTakesAndDragsWhatItComesNearTo) {
   QPointingDevice* const finger = QTest::createTouchDevice();
   openDiaphragm();
