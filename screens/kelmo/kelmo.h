@@ -23,7 +23,6 @@ class kelmo : public DrawingScreen {
   // The rays that carry the moving waves; a tick without them moves nothing.
   const std::optional<poreiaaktinon::Sent>& set() const { return set_; }
 
-
   // What the controls say; lengths in user units.
   double R1() const { return controls_.aktina1.Value(); }         // radius of the left circle
   double R2() const { return controls_.aktina2.Value(); }         // radius of the right circle
