@@ -61,7 +61,10 @@ struct ShownProgram : Program {
     screens.kelmo().Show();
     for (Form* form :
          {static_cast<Form*>(&screens.kelmo()), static_cast<Form*>(&screens.moniaktina())}) {
+      // The display answers each change of state, and every answer starts the moment anew.
+      QApplication::processEvents();
       form->setWindowState(Qt::WindowNoState);
+      QApplication::processEvents();
       // A window that has become an ordinary one is fitted to the display a moment later.
       for (int tries = 0; tries < 20 && form->width() != width; ++tries) {
         QTest::qWait(130);
