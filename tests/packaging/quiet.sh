@@ -1,5 +1,5 @@
-# While nobody saves or prints, the program opens no network socket, only local ones, and writes no
-# file but the toolkit's font cache. Traced through all four screens.
+# While nobody prints, the program opens no network socket, only local ones, and writes no file but
+# the picture that a person saves and the toolkit's font cache. Traced through all four screens.
 # shellcheck disable=SC2046
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/desktop.sh"
 
@@ -39,7 +39,14 @@ sahl=$(window "Ιμπν Σαχλ")
 click "$sahl" $(at_sahl "$sahl" 100 -15)
 menu "$sahl" 4
 no_window "Ιμπν Σαχλ"
+# The picture is written without a name beside its place, and moved there once it is whole.
+saved=$home/picture.png
+activate "$bench"
+key ctrl+s
+answer "Save the picture" "$saved"
+no_window "Save the picture"
 end
+[[ -s $saved ]] || fail "no picture was saved"
 for ((tries = 0; tries < 200; ++tries)); do
   if grep -q '+++ exited with 0 +++' "$scratch"/trace.*; then break; fi
   sleep 0.05
@@ -62,11 +69,12 @@ expect_no "sockets that are not local" \
   "$(grep -E "$sockets" <<<"$trace" | grep -v AF_UNIX || true)"
 expect_no "files that were written" "$(
   grep -E "$opened" <<<"$trace" | grep -E 'O_WRONLY|O_RDWR|O_CREAT|O_TRUNC' |
-    grep -vE '"/dev/[a-z/]+"' | grep -vF "\"$home/.cache/fontconfig/" || true
+    grep -vE '"/dev/[a-z/]+"' | grep -vF -e "\"$home/.cache/fontconfig/" -e "\"$saved" \
+      -e "\"$home\", O_RDWR|O_CLOEXEC|O_TMPFILE" || true
 )"
 expect_no "files that were made, moved or taken away" "$(
   grep -E '^[a-z0-9]+\(' <<<"$trace" | grep -vE "$sockets|$opened| = -1 E" |
-    grep -vF "\"$home/.cache/" || true
+    grep -vF -e "\"$home/.cache/" -e "\"$saved" || true
 )"
 expect_no "what is left at home" \
-  "$(find "$home" ! -type d ! -path "$home/.cache/fontconfig/*")"
+  "$(find "$home" ! -type d ! -path "$home/.cache/fontconfig/*" ! -path "$saved")"
