@@ -53,6 +53,23 @@ waves() {
   click "$bench" $waves_and_rays
 }
 
+# The fan, saved as a vector picture.
+saved() {
+  local file tries
+  file=$(realpath "$pictures")/saved.svg
+  rm -f "$file"
+  activate "$bench"
+  key ctrl+s
+  answer "Save the picture" "$file"
+  no_window "Save the picture"
+  for ((tries = 0; tries < 100; ++tries)); do
+    if [[ -s $file ]]; then break; fi
+    sleep 0.05
+  done
+  [[ -s $file ]] || fail "no vector picture was saved"
+  echo "$file"
+}
+
 # waves_in_time NAME ENTRY: three moments of an animation that lasts about four seconds.
 waves_in_time() {
   local moment
@@ -73,6 +90,12 @@ single_ray() {
   ray=$(window "ΜΙΑ ΑΚΤΙΝΑ")
   drag "$ray" $(at_ray "$ray" -170 90) $(at_ray "$ray" -20 50)
   picture single-ray
+  # At rest where the ray enters the glass, until the picture answers.
+  move "$ray" $(at_ray "$ray" 12 44)
+  move "$ray" $(at_ray "$ray" 9.3 42.2)
+  sleep 1.5
+  frame law
+  mogrify -crop 760x300+400+210 +repage "$pictures/law.png"
   click "$ray" 324 24
   no_window "ΜΙΑ ΑΚΤΙΝΑ"
 }
@@ -120,7 +143,7 @@ waves_and_rays="20 $((menu_bar + 78))"
 mkdir -p "$pictures"
 start_display 1366x768
 start_program "$program_file"
-for stop in workbench fan bundle waves plane_waves waves_of_a_point single_ray \
+for stop in workbench fan saved bundle waves plane_waves waves_of_a_point single_ray \
   lens_menu plano_convex biconvex farewell; do
   "$stop"
 done
