@@ -144,7 +144,8 @@ void poreiamiasaktinas(Canvas& canvas, Variant px, Variant py, Variant dx, Varia
 // before the lens and hides nothing of it. As the pictures.
 void sxediasitoxou1(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant X2, Variant Y2);
 // sxediasitoxou2: the left face likewise, an arc of circle 2; xroma is its colour as a number with
-// red in the lowest byte, 0 for black; below 0 or beyond 32 bits it is Overflow (6).
+// red in the lowest byte, 0 for black; below 0 or beyond 32 bits it is Overflow (6). As the
+// pictures.
 void sxediasitoxou2(Variant xc1, Variant R1, Variant xc2, Variant R2, Variant X2, Variant Y2,
                     Variant xroma);
 
