@@ -32,17 +32,25 @@ bool Steps::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: {
       const auto* press = static_cast<QMouseEvent*>(event);
-      if (press->buttons() == Qt::MouseButtons(press->button())) hold();
+      if (press->buttons() == Qt::MouseButtons(press->button())) {
+        hold();
+        pressed_ = true;
+      }
       break;
     }
     case QEvent::MouseButtonRelease:
-      if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) letGo();
+    case QEvent::MouseMove:
+      // Also of a release that was told to nobody.
+      if (pressed_ && static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) {
+        pressed_ = false;
+        letGo();
+      }
       break;
     case QEvent::KeyPress:
-      if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) hold();
+      if (!pressed_ && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) hold();
       break;
     case QEvent::KeyRelease:
-      if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) letGo();
+      if (!pressed_ && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) letGo();
       break;
     default:
       break;

@@ -46,8 +46,9 @@ class Steps : public QObject {
   Screens& screens_;
   Actions& actions_;
   std::optional<History<ProgramState>> history_;  // from the start on
-  bool held_ = false;                             // a button or a key
-  bool unended_ = false;                          // a person has done something since the last step
+  bool pressed_ = false;  // a mouse button is held: keys neither begin nor end a step meanwhile
+  bool held_ = false;     // a button or a key
+  bool unended_ = false;  // a person has done something since the last step
 };
 
 }  // namespace lensbench

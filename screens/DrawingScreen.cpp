@@ -63,7 +63,7 @@ QString DrawingScreen::tipAt(Point p) const {
   }
   if (answer) return answered();
   const QString hint = drawingArea()->toolTip();
-  return hint.isEmpty() ? helpLine : hint;
+  return hint.isEmpty() ? helpLine : hint + QLatin1Char('\n') + helpLine;
 }
 
 void DrawingScreen::showPointer(Qt::CursorShape shape) { drawingArea()->setCursor(shape); }

@@ -60,19 +60,24 @@ bool ValueBox::eventFilter(QObject* watched, QEvent* event) {
 bool ValueBox::keyPressed(const QKeyEvent& event) {
   constexpr auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   if (event.modifiers() & others) return false;
-  // A bar has keys of its own, and leaves point and comma to the window.
+  // Point and comma are left to the window, and a bar has a use for the minus itself.
   const bool inBox = &typedIn() == &what_.box;
-  const QString begins = inBox ? QStringLiteral("0123456789-−.,") : QStringLiteral("0123456789");
+  const QString begins = inBox ? QStringLiteral("0123456789-−") : QStringLiteral("0123456789");
   if (event.text().size() == 1 && begins.contains(event.text())) {
     open(event.text());
     return true;
   }
   if (!inBox) return false;
+  // With Shift the sideways arrows select text.
+  const bool sideways = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+  if (sideways && (event.modifiers() & Qt::ShiftModifier)) return false;
   switch (event.key()) {
     case Qt::Key_Up:
+    case Qt::Key_Right:
       move(1);
       return true;
     case Qt::Key_Down:
+    case Qt::Key_Left:
       move(-1);
       return true;
     case Qt::Key_PageUp:

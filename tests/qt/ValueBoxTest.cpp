@@ -99,8 +99,18 @@ TEST_F(ValueBoxes, OpenAFieldAtTheFirstDigitAndSetWhatIsEntered) {
   EXPECT_TRUE(box.hasFocus());
 }
 
-TEST_F(ValueBoxes, OpenAtAMinusAPointOrACommaAndAtNothingElse) {
-  for (const char* first : {"-", ".", ",", "−", "0", "9"}) {
+TEST_F(ValueBoxes, MoveTheirBarByTheSidewaysArrowsToo) {
+  QTest::keyClick(&box, Qt::Key_Right);
+  EXPECT_EQ(bar.Value(), 101);
+  QTest::keyClick(&box, Qt::Key_Left);
+  QTest::keyClick(&box, Qt::Key_Left);
+  EXPECT_EQ(bar.Value(), 99);
+  QTest::keyClick(&box, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(bar.Value(), 99) << "with Shift they select text";
+}
+
+TEST_F(ValueBoxes, OpenAtADigitOrAMinusAndAtNothingElse) {
+  for (const char* first : {"-", "−", "0", "9"}) {
     QKeyEvent press(QEvent::KeyPress, 0, {}, QString::fromUtf8(first));
     QApplication::sendEvent(&box, &press);
     ASSERT_NE(fieldOn(form), nullptr) << first;
@@ -108,7 +118,7 @@ TEST_F(ValueBoxes, OpenAtAMinusAPointOrACommaAndAtNothingElse) {
     QTest::keyClick(fieldOn(form), Qt::Key_Escape);
     EXPECT_EQ(fieldOn(form), nullptr);
   }
-  QTest::keyClicks(&box, "a +e");
+  QTest::keyClicks(&box, "a +e.,");
   QTest::keyClick(&box, Qt::Key_1, Qt::ControlModifier);
   QTest::keyClick(&box, Qt::Key_1, Qt::AltModifier);
   EXPECT_EQ(fieldOn(form), nullptr);

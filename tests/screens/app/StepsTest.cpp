@@ -181,6 +181,34 @@ TEST_F(Steps, LeaveADragThatIsNoStepYet) {
   EXPECT_EQ(c.aktina1.Value(), 150);
 }
 
+TEST_F(Steps, AreNotMadeOrEndedByKeysWhileTheMouseHoldsSomething) {
+  c.aktina1.Value(150);
+  press(bench, {0.0, 150.0});
+  moveTo(bench, {40.0, 150.0});
+  QTest::keyClick(&bench, Qt::Key_A);
+  QTest::keyClick(&bench, Qt::Key_Shift);
+  moveTo(bench, {60.0, 150.0});
+  release(bench, {60.0, 150.0});
+  QApplication::processEvents();
+  EXPECT_NEAR(bench.diafragma().X, 60.0, 1e-9);
+  screens.undo();
+  EXPECT_NEAR(bench.diafragma().X, 0.0, 1e-9);
+  EXPECT_EQ(c.aktina1.Value(), 150);
+}
+
+TEST_F(Steps, LeaveNothingOfADragThatAKeyLeft) {
+  c.aktina1.Value(150);
+  press(bench, {0.0, 150.0});
+  moveTo(bench, {40.0, 150.0});
+  QTest::keyClick(&bench, Qt::Key_Escape);
+  release(bench, {60.0, 150.0});
+  QApplication::processEvents();
+  EXPECT_NEAR(bench.diafragma().X, 0.0, 1e-9);
+  QTest::keyClick(&bench, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NEAR(bench.diafragma().X, 0.0, 1e-9);
+  EXPECT_EQ(c.aktina1.Value(), 100);
+}
+
 TEST_F(Steps, CoverTheLensMenuAndTheIbnSahlScreen) {
   c.SAHLIC.trigger();
   auto& menu = screens.eisagogiko();

@@ -69,6 +69,9 @@ TEST_F(SingleThingsTest, SourceAndAimArePutAsTheMousePutsThem) {
 }
 
 TEST_F(SingleThingsTest, ATipNamesTheSourceAndTheLawAndElsewhereTheHint) {
+  const QString hint = screen.drawingArea()->toolTip();
+  ASSERT_FALSE(hint.isEmpty());
+  EXPECT_TRUE(screen.tipAt({300.0, -150.0}).startsWith(hint + "\nF1: "));
   mouse(QEvent::MouseButtonPress, {-210.0, 40.0});
   mouse(QEvent::MouseButtonRelease, {20.0, 30.0});
   EXPECT_TRUE(screen.tipAt(at(moniaktina::Source)).startsWith("Φωτεινή πηγή στο ("));
