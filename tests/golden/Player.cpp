@@ -310,7 +310,7 @@ void Player::tick(const char* name) {
 void Player::send(Form& form, int type, Point at, int buttons, bool shift) {
   const Point place = form.canvas().mapping().toPixel(at);
   const QPointF pixel(place.x, place.y);
-  const auto held = Qt::MouseButtons::fromInt(buttons);
+  const auto held = Qt::MouseButtons::fromInt(static_cast<Qt::MouseButtons::Int>(buttons));
   const auto kind = static_cast<QEvent::Type>(type);
   const auto button = kind == QEvent::MouseMove            ? Qt::NoButton
                       : kind == QEvent::MouseButtonRelease ? Qt::LeftButton

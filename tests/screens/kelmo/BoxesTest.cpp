@@ -32,7 +32,7 @@ TEST_F(KelmoBoxes, RadiiCentreAndIndexGoToTheirBars) {
         Case{c.Text5, c.aktina2, "0", 0}, Case{c.Text5, c.aktina2, "999", 500},
         Case{c.Text7, c.kentrokykloy, "44.4", 44}, Case{c.Text7, c.kentrokykloy, "-8", 0},
         Case{c.Text2, c.deiktisdiathlasis, "1,73", 173},
-        Case{c.Text2, c.deiktisdiathlasis, ".2", 40}, Case{c.arvimaton, c.arvimaton, "31", 31}}) {
+        Case{c.Text2, c.deiktisdiathlasis, "0.2", 40}, Case{c.arvimaton, c.arvimaton, "31", 31}}) {
     enter(one.box, one.typed);
     EXPECT_EQ(one.bar.Value(), one.value) << one.typed;
     EXPECT_EQ(fieldOn(screen), nullptr) << one.typed;
