@@ -302,7 +302,10 @@ TEST(AskLaws, ImagesAgreeWithTheLensFormula) {
   int done = 0;
   for (int tries = 0; done < hits && tries < 100 * hits; ++tries) {
     const Bench bench = random.bench();
-    const auto [xc1, R1, xc2, R2] = bench.fakos;
+    const double xc1 = bench.fakos.xc1;
+    const double R1 = bench.fakos.R1;
+    const double xc2 = bench.fakos.xc2;
+    const double R2 = bench.fakos.R2;
     const double n = bench.n;
     const Point source = random.source();
     if (n == 1.0 || source.x > std::min(xc1 + R1, xc2 + R2)) continue;
