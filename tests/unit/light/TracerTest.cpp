@@ -125,6 +125,19 @@ TEST(OnFace, AStartOnAFaceOfACircleIsInTheGlassAlready) {
   EXPECT_EQ(trace(circles(), justInside, conditions).pieces[0].medium, Medium::Glass);
 }
 
+TEST(OnFace, TheOuterLimitOfTheMarginStandsOnTheFaceTheInnerOneDoesNot) {
+  Conditions conditions = toEdges();
+  conditions.onFace = 0.5;
+  // 150 and 50 units from the centre of the left face.
+  EXPECT_EQ(trace(circles(), {{-90.0, 0.0}, {1.0, 0.0}}, conditions).pieces[0].medium,
+            Medium::Glass);
+  EXPECT_EQ(trace(circles(), {{-90.001, 0.0}, {1.0, 0.0}}, conditions).pieces[0].medium,
+            Medium::Air);
+  EXPECT_EQ(trace(circles(), {{10.0, 0.0}, {-1.0, 0.0}}, conditions).pieces[0].medium,
+            Medium::Glass);
+  EXPECT_TRUE(trace(circles(), {{9.999, 0.0}, {-1.0, 0.0}}, conditions).missed());
+}
+
 TEST(Touching, AStartBarelyInTheGlassStillEnters) {
   const Ray ray{{48.0 - 1e-10, 3.0}, {-1.0, 0.0}};
   EXPECT_EQ(trace(planoConvex(), ray, byLengths()).pieces[0].medium, Medium::Air);
