@@ -370,7 +370,10 @@ std::vector<Player::Action> Player::workbench() {
   add("press", [this, &k] { press(k, anywhere(380.0, 200.0), false); });
   add("right press", [this, &k] { press(k, anywhere(380.0, 200.0), true, rightMouse); });
   const auto dragFrom = [&](const char* name, std::function<Point()> from) {
-    add(name, [this, &k, from] { drag(k, from(), anywhere(200.0, 50.0)); });
+    add(name, [this, &k, from] {
+      const Point to = anywhere(200.0, 50.0);
+      drag(k, from(), to);
+    });
   };
   dragFrom("drag of the upper blade", [&k] {
     return Point{k.diafragma().X, k.diafragma().yA + 4.0};
@@ -406,7 +409,10 @@ std::vector<Player::Action> Player::singleRay() {
     add(name, [this, &r, name] { slide(r, name); });
   }
   for (const char* name : {"a ray", "another ray", "a third ray"}) {
-    add(name, [this, &r] { drag(r, anywhere(350.0, 150.0), anywhere(350.0, 150.0)); });
+    add(name, [this, &r] {
+      const Point to = anywhere(350.0, 150.0);
+      drag(r, anywhere(350.0, 150.0), to);
+    });
   }
   add("right press", [this, &r] { press(r, anywhere(350.0, 150.0), false, rightMouse); });
   add("a ray straight up", [this, &r] {
@@ -446,7 +452,10 @@ std::vector<Player::Action> Player::ibnSahl() {
   }
   add("right press", [this, &e] { press(e, anywhere(110.0, 100.0), false, rightMouse); });
   const auto dragFrom = [&](const char* name, std::function<Point()> from) {
-    add(name, [this, &e, from] { drag(e, from(), anywhere(100.0, 40.0)); });
+    add(name, [this, &e, from] {
+      const Point to = anywhere(100.0, 40.0);
+      drag(e, from(), to);
+    });
   };
   dragFrom("drag of the upper edge", [&e] {
     return Point{e.diafragma().X, e.diafragma().yA + 3.0};

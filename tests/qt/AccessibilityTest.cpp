@@ -105,7 +105,8 @@ TEST(Touch, TakesAndDragsAsTheMouseDoes) {
   QObject::connect(&form, &Form::MouseDown, note(down));
   QObject::connect(&form, &Form::MouseMove, note(moved));
   QObject::connect(&form, &Form::MouseUp, note(up));
-  QPointingDevice* const finger = QTest::createTouchDevice();
+  // The toolkit keeps it in its list of devices for good.
+  static QPointingDevice* const finger = QTest::createTouchDevice();
   QTest::touchEvent(&form.area(), finger).press(0, QPoint(40, 50), &form.area());
   QTest::touchEvent(&form.area(), finger).move(0, QPoint(90, 60), &form.area());
   QTest::touchEvent(&form.area(), finger).release(0, QPoint(90, 60), &form.area());

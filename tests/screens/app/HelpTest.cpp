@@ -1,4 +1,5 @@
 // The help window: what it lists, which screen it tells of, and that it is in nobody's way.
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -31,8 +32,18 @@ class HelpTest : public ::testing::Test {
   const HelpWindow* window() { return screens.helpWindow().window(); }
   QTextBrowser& browser() { return *window()->findChild<QTextBrowser*>(); }
   QString text() { return browser().toPlainText(); }
+  bool tellsOf(const DrawingScreen& screen) {
+    const auto things = screen.things();
+    const auto told = [this](const QString& words) { return text().contains(words); };
+    return std::all_of(things.begin(), things.end(), [&](const Thing& thing) {
+      const QStringList lines = thing.words.split('\n');
+      return told(thing.name) && std::all_of(lines.begin(), lines.end(), told);
+    });
+  }
   void expectThingsOf(const DrawingScreen& screen) {
     ASSERT_FALSE(screen.things().empty());
+    // Windows come to their size, and with it things to their places, in their own time.
+    (void)QTest::qWaitFor([&] { return tellsOf(screen); }, 3000);
     EXPECT_TRUE(text().startsWith(screen.accessibleName())) << text().left(80).toStdString();
     for (const Thing& thing : screen.things()) {
       EXPECT_TRUE(text().contains(thing.name)) << thing.name.toStdString();

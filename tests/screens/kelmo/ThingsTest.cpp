@@ -209,7 +209,8 @@ TEST_F(ThingsTest, WhatStandsInTheOpeningIsNamedBesideTheDiaphragm) {
 }
 
 TEST_F(ThingsTest, AFingerTakesAndDragsWhatItComesNearTo) {
-  QPointingDevice* const finger = QTest::createTouchDevice();
+  // The toolkit keeps it in its list of devices for good.
+  static QPointingDevice* const finger = QTest::createTouchDevice();
   openDiaphragm();
   const poreiaaktinon::Diafragma before = blades();
   QWidget* const area = screen.drawingArea();
