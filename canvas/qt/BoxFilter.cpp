@@ -22,7 +22,8 @@ PixelValue meanOfFour(const PixelValue* upper, const PixelValue* lower) {
 // As many pixels as a tile stands for: with the number known and no alias to fear the compiler
 // computes four at a time.
 void halveTileRow(const PixelValue* upper, const PixelValue* lower, PixelValue* out) {
-  std::array<PixelValue, Tiles::side / 2> means;
+  // All are set below.
+  std::array<PixelValue, Tiles::side / 2> means;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   for (std::size_t i = 0; i < means.size(); ++i) {
     means[i] = meanOfFour(upper + 2 * i, lower + 2 * i);
   }

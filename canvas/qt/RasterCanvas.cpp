@@ -99,7 +99,7 @@ void RasterCanvas::loseAll() {
 
 QRegion RasterCanvas::takeDirty() {
   told_ = false;
-  const QRegion changed = tiles_.takeChanged();
+  QRegion changed = tiles_.takeChanged();
   const int k = oversampling_;
   if (k == 1) return changed;
   QRegion display;

@@ -20,7 +20,7 @@ Tiles::Tiles(QSize size, PixelValue colour)
       across_(tilesFor(width_)),
       down_(tilesFor(height_)) {
   const std::size_t count = index(0, down_);
-  pages_.reset(new Page[count]);
+  pages_ = std::make_unique<Page[]>(count);
   shown_.assign(count, plainPage(colour));
   painted_.resize(count);
   flags_.assign(count, ToShow | ToCopy);

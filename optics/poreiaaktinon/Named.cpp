@@ -198,7 +198,7 @@ Sent bentaliaaktinon(Variant xc1, Variant xc2, Variant R1, Variant R2, Variant x
   Canvas& canvas = workbench().canvas();
   Bench bench = workbench().bench();
   bench.fakos = fakosOf(xc1, xc2, R1, R2);
-  const Sent sent = send(bench, Fan{point(xs, ys), workbench().vima()}, light::edgesOf(canvas));
+  Sent sent = send(bench, Fan{point(xs, ys), workbench().vima()}, light::edgesOf(canvas));
   drawLight(canvas, {sent, workbench().provoli()});
   return sent;
 }

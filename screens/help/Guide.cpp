@@ -14,8 +14,9 @@ constexpr Words opening{
     "it up” puts on the screen what the lesson needs; Ctrl+Z takes it back."};
 
 std::string row(const Words& name, const Words& words) {
-  return "| **" + std::string(name.greek) + " · " + std::string(name.english) + "** | " +
-         std::string(words.greek) + " | " + std::string(words.english) + " |\n";
+  std::string line("| **");
+  line.append(name.greek).append(" · ").append(name.english).append("** | ");
+  return line.append(words.greek).append(" | ").append(words.english).append(" |\n");
 }
 
 }  // namespace
@@ -26,15 +27,16 @@ std::string picturePath(std::size_t number) {
 }
 
 std::string guide() {
-  std::string page = "# Μαθήματα οπτικής · Lessons in optics\n\n" + std::string(opening.greek) +
-                     "\n\n" + std::string(opening.english) + "\n";
+  std::string page("# Μαθήματα οπτικής · Lessons in optics\n\n");
+  page.append(opening.greek).append("\n\n").append(opening.english).append("\n");
   std::size_t number = 0;
   for (const Lesson& lesson : all()) {
     ++number;
-    const std::string title =
-        std::string(lesson.title.greek) + " · " + std::string(lesson.title.english);
-    page += "\n## " + std::to_string(number) + ". " + title + "\n\n![" + title + "](" +
-            picturePath(number) + ")\n\n| | Ελληνικά | English |\n|---|---|---|\n";
+    std::string title(lesson.title.greek);
+    title.append(" · ").append(lesson.title.english);
+    page.append("\n## ").append(std::to_string(number)).append(". ").append(title);
+    page.append("\n\n![").append(title).append("](").append(picturePath(number));
+    page.append(")\n\n| | Ελληνικά | English |\n|---|---|---|\n");
     for (const Part& part : parts(lesson)) page += row(part.name, part.words);
   }
   return page;
