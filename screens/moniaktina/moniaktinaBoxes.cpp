@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include <QToolTip>
 
@@ -72,7 +73,9 @@ void moniaktina::connectBoxes() {
   // What is taken for a bar's value, as the outline of the lens is.
   const auto add = [](TextBox& box, ScrollBar& bar, std::function<NoOutline(int)> at) {
     Settable settable = valueOfBar(box, bar);
-    settable.end = [at](double value) { return refusal(at(static_cast<int>(std::lround(value)))); };
+    settable.end = [at = std::move(at)](double value) {
+      return refusal(at(static_cast<int>(std::lround(value))));
+    };
     new ValueBox(settable);
   };
   add(c.Text6, c.aktina1, [this](int R1) { return withRadius1(R1); });
