@@ -73,6 +73,22 @@ std::vector<HelpSection> lessonSections() {
   return sections;
 }
 
+// What is told of every screen.
+std::vector<HelpSection> commonSections() {
+  std::vector<HelpSection> sections;
+  for (const Scope& scope : scopes) {
+    HelpSection section{scope.heading, scope.lead, {}, {}, {}};
+    for (const Key& key : keys()) {
+      if (key.scope != scope.scope) continue;
+      section.rows.push_back(
+          {key.name, QString::fromUtf8(key.greek) + '\n' + QString::fromUtf8(key.english)});
+    }
+    sections.push_back(std::move(section));
+  }
+  for (HelpSection& lesson : lessonSections()) sections.push_back(std::move(lesson));
+  return sections;
+}
+
 // The screen that keys go to, or else one that is seen.
 Form* formInFront() {
   if (auto* active = qobject_cast<Form*>(QApplication::activeWindow())) return active;
@@ -86,17 +102,9 @@ Form* formInFront() {
 }  // namespace
 
 std::vector<HelpSection> helpFor(const Form& screen) {
+  static const std::vector<HelpSection> common = commonSections();
   std::vector<HelpSection> sections{thingsOf(screen)};
-  for (const Scope& scope : scopes) {
-    HelpSection section{scope.heading, scope.lead, {}, {}, {}};
-    for (const Key& key : keys()) {
-      if (key.scope != scope.scope) continue;
-      section.rows.push_back(
-          {key.name, QString::fromUtf8(key.greek) + '\n' + QString::fromUtf8(key.english)});
-    }
-    sections.push_back(std::move(section));
-  }
-  for (HelpSection& lesson : lessonSections()) sections.push_back(std::move(lesson));
+  sections.insert(sections.end(), common.begin(), common.end());
   return sections;
 }
 

@@ -54,21 +54,18 @@ void Screens::restore(const ProgramState& to) {
   const bool follow = shared_.follow;
   shared_ = to.shared;
   shared_.follow = follow;
-  restoreValues(kelmo_, to.kelmo);
-  restoreValues(moniaktina_, to.moniaktina);
-  restoreValues(ElSahl_, to.ElSahl);
-  restoreValues(eisagogiko_, to.eisagogiko);
+  const auto each = [&](const auto& what) {
+    what(kelmo_, &ProgramState::kelmo);
+    what(moniaktina_, &ProgramState::moniaktina);
+    what(ElSahl_, &ProgramState::ElSahl);
+    what(eisagogiko_, &ProgramState::eisagogiko);
+  };
+  each([&](const auto& screen, auto part) { restoreValues(screen, to.*part); });
   for (const bool show : {true, false}) {
-    showOrHide(kelmo_, to.kelmo, show);
-    showOrHide(moniaktina_, to.moniaktina, show);
-    showOrHide(ElSahl_, to.ElSahl, show);
-    showOrHide(eisagogiko_, to.eisagogiko, show);
+    each([&](const auto& screen, auto part) { showOrHide(screen, to.*part, show); });
   }
   const ProgramState after = state();
-  bringToFront(kelmo_, before.kelmo, after.kelmo);
-  bringToFront(moniaktina_, before.moniaktina, after.moniaktina);
-  bringToFront(ElSahl_, before.ElSahl, after.ElSahl);
-  bringToFront(eisagogiko_, before.eisagogiko, after.eisagogiko);
+  each([&](const auto& screen, auto part) { bringToFront(screen, before.*part, after.*part); });
 }
 
 }  // namespace lensbench

@@ -5,7 +5,6 @@
 // The time shown is the surface's own; "reference" is the other's in ms, "ratio" ours over it.
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <vector>
 
 #include <QPainter>

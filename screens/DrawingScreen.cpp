@@ -1,5 +1,6 @@
 #include "screens/DrawingScreen.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -10,6 +11,7 @@
 #include <QToolTip>
 
 #include "canvas/qt/DrawingArea.h"
+#include "optics/light/Edges.h"
 
 namespace lensbench {
 namespace {
@@ -41,6 +43,11 @@ std::optional<Thing> DrawingScreen::thingOf(int id) const {
     if (thing.id == id) return std::move(thing);
   }
   return std::nullopt;
+}
+
+Point DrawingScreen::withinArea(Point p) const {
+  const light::Edges area = light::edgesOf(canvas());
+  return {std::clamp(p.x, area.left, area.right), std::clamp(p.y, area.lower, area.upper)};
 }
 
 Point DrawingScreen::toUser(QPointF pixel) const {

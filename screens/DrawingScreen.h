@@ -61,6 +61,8 @@ class DrawingScreen : public Form {
   virtual void goBack() { emit CloseBox(); }
 
   std::optional<Thing> thingOf(int id) const;
+  // The nearest point of the drawing area: the mouse presses nowhere else.
+  Point withinArea(Point p) const;
   // The pointer is over that, or over nothing that a press would take.
   virtual void showPointer(Qt::CursorShape shape);
 

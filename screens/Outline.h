@@ -14,7 +14,7 @@ namespace lensbench {
 QPainterPath lineOutline(const UserMapping& map, Point from, Point to);
 
 // A ring of so many logical pixels around a point in user units.
-QPainterPath ringOutline(const UserMapping& map, Point middle, double radius);
+QPainterPath ringOutline(const UserMapping& map, Point middle, double radius = 5.0);
 
 // The dots among these that are seen.
 QPainterPath dotOutline(std::initializer_list<const Shape*> dots);

@@ -21,6 +21,14 @@ inline QString coordinates(Point p) {
   return QStringLiteral("(%1, %2)").arg(number(p.x), number(p.y));
 }
 
+// Of a source that a press alone takes elsewhere.
+inline QString pressedSourceWords(Point source) {
+  return QStringLiteral(
+             "Φωτεινή πηγή στο %1. Πάτησε αλλού για να τη βάλεις εκεί.\n"
+             "Light source at %1. Press elsewhere to place it there.")
+      .arg(coordinates(source));
+}
+
 // Said of an index of refraction below 1: when a lens is opened or a bundle asked for, and when the
 // source is placed or the waves asked for.
 inline const QString lensRefused = QStringLiteral("`Ακυρος Δείκτης Διάθλασηςgive a bigger value");

@@ -1,7 +1,6 @@
 #include "screens/ThingFocus.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include <QFocusEvent>

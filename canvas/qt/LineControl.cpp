@@ -5,7 +5,6 @@
 
 #include <QLineF>
 #include <QPainter>
-#include <QPen>
 #include <QTransform>
 
 namespace lensbench {

@@ -4,11 +4,13 @@
 #include <numbers>
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QString>
 
 #include "canvas/qt/Chords.h"
 #include "canvas/qt/Fonts.h"
 #include "canvas/qt/Pixels.h"
+#include "canvas/qt/UserMapping.h"
 
 namespace lensbench {
 namespace {

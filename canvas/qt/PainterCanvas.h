@@ -5,11 +5,10 @@
 #include <string_view>
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QRectF>
 #include <QSizeF>
 
-#include "canvas/qt/UserMapping.h"
+#include "canvas/Canvas.h"
 
 namespace lensbench {
 

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include <QPainter>
-#include <QPen>
 
 namespace lensbench {
 

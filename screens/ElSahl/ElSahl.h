@@ -8,7 +8,6 @@
 #include "screens/ElSahl/SahlControls.h"
 #include "screens/ElSahl/SahlState.h"
 #include "screens/LiveSource.h"
-#include "screens/Shared.h"
 
 namespace lensbench {
 

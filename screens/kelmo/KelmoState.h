@@ -23,7 +23,8 @@ struct KelmoState {
   };
 
   std::array<int, 10> bars{};      // values of the scroll bars, in the order of kelmoState.cpp
-  std::array<QString, 6> texts{};  // of what shows their values
+  std::array<QString, 5> texts{};  // of the boxes that show them
+  QString Label3;                  // the multiplier's text
   bool Check1 = false;
   bool Check2 = false;
   poreiaaktinon::Diafragma diafragma{};

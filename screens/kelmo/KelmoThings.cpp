@@ -10,8 +10,6 @@ namespace {
 
 using poreiaaktinon::Diafragma;
 
-constexpr double centreRing = 5.0;  // radius of the outline of a centre, pixels
-
 constexpr int idOf(Grab grab) { return static_cast<int>(grab); }
 
 QString sourceWords(Point source) {
@@ -28,18 +26,11 @@ QString lostSourceWords(Point source) {
       .arg(coordinates(source));
 }
 
-QString upperBladeWords(const Diafragma& d) {
+QString bladeWords(const char* greek, const char* english, Point end, double opening) {
   return QStringLiteral(
-             "Άνω διάφραγμα: το άκρο του στο %1, οπή %2. Σύρε το.\n"
-             "Upper blade: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yA}), number(d.yA - d.yB));
-}
-
-QString lowerBladeWords(const Diafragma& d) {
-  return QStringLiteral(
-             "Κάτω διάφραγμα: το άκρο του στο %1, οπή %2. Σύρε το.\n"
-             "Lower blade: its end at %1, opening %2. Drag it.")
-      .arg(coordinates({d.X, d.yB}), number(d.yA - d.yB));
+             "%1 διάφραγμα: το άκρο του στο %3, οπή %4. Σύρε το.\n"
+             "%2 blade: its end at %3, opening %4. Drag it.")
+      .arg(QString::fromUtf8(greek), QString::fromUtf8(english), coordinates(end), number(opening));
 }
 
 QString diaphragmWords(const Diafragma& d) {
@@ -86,9 +77,11 @@ std::vector<Thing> kelmo::things() const {
       {idOf(Grab::Source), "Φωτεινή πηγή · Light source",
        c.sourceMark.Visible() ? lostSourceWords(pigi()) : sourceWords(pigi()), pigi(),
        dotOutline({&c.pigi, &c.sourceMark}), Qt::SizeAllCursor, free},
-      {idOf(Grab::UpperBlade), "Άνω διάφραγμα · Upper blade", upperBladeWords(d), upperEnd,
+      {idOf(Grab::UpperBlade), "Άνω διάφραγμα · Upper blade",
+       bladeWords("Άνω", "Upper", upperEnd, d.yA - d.yB), upperEnd,
        blade(edges().upper, upperEnd, c.upperBladeMark), Qt::SizeAllCursor, free},
-      {idOf(Grab::LowerBlade), "Κάτω διάφραγμα · Lower blade", lowerBladeWords(d), lowerEnd,
+      {idOf(Grab::LowerBlade), "Κάτω διάφραγμα · Lower blade",
+       bladeWords("Κάτω", "Lower", lowerEnd, d.yA - d.yB), lowerEnd,
        blade(edges().lower, lowerEnd, c.lowerBladeMark), Qt::SizeAllCursor, free},
       {idOf(Grab::Diaphragm),
        "Διάφραγμα · Diaphragm",
@@ -101,14 +94,14 @@ std::vector<Thing> kelmo::things() const {
        "Κέντρο αριστερού κύκλου · Centre of the left circle",
        centreWords("αριστερού", "left", xc1()),
        {xc1(), 0.0},
-       ringOutline(map, {xc1(), 0.0}, centreRing),
+       ringOutline(map, {xc1(), 0.0}),
        Qt::SizeHorCursor,
        inUnits},
       {idOf(Grab::RightCentre),
        "Κέντρο δεξιού κύκλου · Centre of the right circle",
        centreWords("δεξιού", "right", xc2()),
        {xc2(), 0.0},
-       ringOutline(map, {xc2(), 0.0}, centreRing),
+       ringOutline(map, {xc2(), 0.0}),
        Qt::SizeHorCursor,
        inUnits},
       // Each stands where its circle crosses the axis as a face of the lens.

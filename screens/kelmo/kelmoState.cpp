@@ -1,11 +1,9 @@
 // The workbench as a value, and back; and what stands on its picture, repeated with other values.
 #include "screens/kelmo/KelmoState.h"
 
-#include <cstddef>
 #include <utility>
 
-#include <QSignalBlocker>
-
+#include "screens/ControlValues.h"
 #include "screens/Shared.h"
 #include "screens/kelmo/kelmo.h"
 
@@ -58,11 +56,9 @@ KelmoState withoutFronts(KelmoState state) {
 KelmoState kelmo::state() const {
   const KelmoControls& c = controls_;
   KelmoState state;
-  const auto bars = barsOf(c);
-  for (std::size_t i = 0; i < bars.size(); ++i) state.bars[i] = bars[i]->Value();
-  const auto boxes = boxesOf(c);
-  for (std::size_t i = 0; i < boxes.size(); ++i) state.texts[i] = boxes[i]->Text();
-  state.texts.back() = c.Label3.Caption();
+  state.bars = valuesOf(barsOf(c));
+  state.texts = textsOf(boxesOf(c));
+  state.Label3 = c.Label3.Caption();
   state.Check1 = c.Check1.Value();
   state.Check2 = c.Check2.Value();
   state.diafragma = diafragma();
@@ -80,14 +76,9 @@ KelmoState kelmo::state() const {
 
 void kelmo::restore(const KelmoState& state) {
   KelmoControls& c = controls_;
-  const auto bars = barsOf(c);
-  for (std::size_t i = 0; i < bars.size(); ++i) {
-    const QSignalBlocker quiet(bars[i]);
-    bars[i]->Value(state.bars[i]);
-  }
-  const auto boxes = boxesOf(c);
-  for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->Text(state.texts[i]);
-  c.Label3.Caption(state.texts.back());
+  setQuietly(barsOf(c), state.bars);
+  setTexts(boxesOf(c), state.texts);
+  c.Label3.Caption(state.Label3);
   c.Check1.Value(state.Check1);
   c.Check2.Value(state.Check2);
   placeDiaphragm(state.diafragma);

@@ -1,5 +1,4 @@
 // The picture of the workbench in words, for those who cannot see it.
-#include <cmath>
 
 #include "optics/poreiaaktinon/CardinalPoints.h"
 #include "optics/poreiaaktinon/Numbers.h"

@@ -1,6 +1,4 @@
 // What can be placed on the single-ray screen, in words and by other means than the mouse.
-#include <algorithm>
-
 #include "optics/poreiaaktinon/Ask.h"
 #include "screens/Outline.h"
 #include "screens/Texts.h"
@@ -8,15 +6,6 @@
 
 namespace lensbench {
 namespace {
-
-constexpr double aimRing = 5.0;  // radius of the outline of the aim, pixels
-
-QString sourceWords(Point source) {
-  return QStringLiteral(
-             "Φωτεινή πηγή στο %1. Πάτησε αλλού για να τη βάλεις εκεί.\n"
-             "Light source at %1. Press elsewhere to place it there.")
-      .arg(coordinates(source));
-}
 
 QString aimWords(Point aim) {
   return QStringLiteral(
@@ -38,7 +27,7 @@ std::vector<Thing> moniaktina::things() const {
       // A press puts the corner of the mark, not its middle, where the mouse is.
       {Source,
        "Φωτεινή πηγή · Light source",
-       sourceWords(controls_.source()),
+       pressedSourceWords(controls_.source()),
        corner,
        dotOutline({&controls_.fos, &controls_.sourceMark}),
        Qt::ArrowCursor,
@@ -47,7 +36,7 @@ std::vector<Thing> moniaktina::things() const {
        "Στόχος της ακτίνας · Aim of the ray",
        feared.isEmpty() ? aimWords(aim()) : feared,
        aim(),
-       ringOutline(canvas().mapping(), aim(), aimRing),
+       ringOutline(canvas().mapping(), aim()),
        Qt::ArrowCursor,
        {}},
   };
@@ -61,10 +50,8 @@ std::optional<Answer> moniaktina::ask(Point p, double reach) const {
 
 void moniaktina::put(int thing, Point p) {
   if (thing == Aim) return Form_MouseUp(leftButton, 0, p.x, p.y);
-  // The mouse presses on the drawing area only.
-  const light::Edges area = light::edgesOf(canvas());
-  Form_MouseDown(leftButton, 0, std::clamp(p.x, area.left, area.right),
-                 std::clamp(p.y, area.lower, area.upper));
+  const Point pressed = withinArea(p);
+  Form_MouseDown(leftButton, 0, pressed.x, pressed.y);
   dragEnded();
   followValues();
 }

@@ -1,9 +1,6 @@
 // The single-ray screen as a value, and back; and its ray, sent again with other values.
-#include <cstddef>
-
-#include <QSignalBlocker>
-
 #include "optics/poreiaaktinon/Numbers.h"
+#include "screens/ControlValues.h"
 #include "screens/Shared.h"
 #include "screens/moniaktina/moniaktina.h"
 
@@ -35,10 +32,8 @@ std::optional<Point> aimOf(const single::Shown& shown) {
 MoniaktinaState moniaktina::state() const {
   const MoniaktinaControls& c = controls_;
   MoniaktinaState state;
-  const auto bars = barsOf(c);
-  for (std::size_t i = 0; i < bars.size(); ++i) state.bars[i] = bars[i]->Value();
-  const auto boxes = boxesOf(c);
-  for (std::size_t i = 0; i < boxes.size(); ++i) state.texts[i] = boxes[i]->Text();
+  state.bars = valuesOf(barsOf(c));
+  state.texts = textsOf(boxesOf(c));
   state.read = {aktinaR1, aktinaR2, kentro1, kentro2, deiktis};
   state.source = c.source();
   state.corner = {c.fos.Left(), c.fos.Top()};
@@ -50,13 +45,8 @@ MoniaktinaState moniaktina::state() const {
 
 void moniaktina::restore(const MoniaktinaState& state) {
   MoniaktinaControls& c = controls_;
-  const auto bars = barsOf(c);
-  for (std::size_t i = 0; i < bars.size(); ++i) {
-    const QSignalBlocker quiet(bars[i]);
-    bars[i]->Value(state.bars[i]);
-  }
-  const auto boxes = boxesOf(c);
-  for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->Text(state.texts[i]);
+  setQuietly(barsOf(c), state.bars);
+  setTexts(boxesOf(c), state.texts);
   aktinaR1 = state.read[0];
   aktinaR2 = state.read[1];
   kentro1 = state.read[2];

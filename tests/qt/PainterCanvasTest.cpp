@@ -37,6 +37,22 @@ int dark(const QImage& image) {
   return n;
 }
 
+// How many pixels are dark on only one of a painted picture and the surface that draw draws on.
+template <typename Draw>
+int differing(const QImage& picture, Draw&& draw) {
+  RasterCanvas surface(logical, picture.width() / logical.width(), 1);
+  surface.Scale(-100, 80, 100, -80);
+  draw(surface);
+  int n = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const bool onPicture = qGray(picture.pixel(x, y)) < 128;
+      n += onPicture == (surface.image().pixel(x, y) != 0xFFFFFFFFu) ? 0 : 1;
+    }
+  }
+  return n;
+}
+
 TEST(PainterCanvas, PensAndDotsKeepTheirSizeInLogicalPixels) {
   for (const int ratio : {1, 4}) {
     const QImage line = painted(ratio, [](Canvas& canvas) {
@@ -61,20 +77,9 @@ TEST(PainterCanvas, LooksLikeTheSurface) {
     canvas.Circle(-20, 10, 60, black, 5.0, 1.0);
     canvas.Circle(1e7, 0, 1e7 - 30, black);
   };
-  const int ratio = 2;
-  RasterCanvas surface(logical, ratio, 1);
-  surface.Scale(-100, 80, 100, -80);
-  draw(surface);
-  const QImage vector = painted(ratio, draw);
-  int differ = 0;
-  for (int y = 0; y < vector.height(); ++y) {
-    for (int x = 0; x < vector.width(); ++x) {
-      const bool other = qGray(vector.pixel(x, y)) < 128;
-      differ += other == (surface.image().pixel(x, y) != 0xFFFFFFFFu) ? 0 : 1;
-    }
-  }
+  const QImage vector = painted(2, draw);
   EXPECT_GT(dark(vector), 4000);
-  EXPECT_LT(differ, dark(vector) / 20);
+  EXPECT_LT(differing(vector, draw), dark(vector) / 20);
 }
 
 TEST(PainterCanvas, OnlyAPenOfWidthOneDots) {
@@ -95,20 +100,9 @@ TEST(PainterCanvas, TheDotsOfACircleThatIsSeenInPartsStandWhereTheSurfaceHasThem
     canvas.Circle(0, 0, 91.3, black);
     canvas.Circle(31.7, 0, 90.9, black);
   };
-  const int ratio = 4;
-  RasterCanvas surface(logical, ratio, 1);
-  surface.Scale(-100, 80, 100, -80);
-  draw(surface);
-  const QImage vector = painted(ratio, draw);
-  int differ = 0;
-  for (int y = 0; y < vector.height(); ++y) {
-    for (int x = 0; x < vector.width(); ++x) {
-      const bool other = qGray(vector.pixel(x, y)) < 128;
-      differ += other == (surface.image().pixel(x, y) != 0xFFFFFFFFu) ? 0 : 1;
-    }
-  }
+  const QImage vector = painted(4, draw);
   EXPECT_GT(dark(vector), 4000);
-  EXPECT_LT(differ, dark(vector) / 6);
+  EXPECT_LT(differing(vector, draw), dark(vector) / 6);
 }
 
 TEST(PainterCanvas, ABodyIsFilledAndItsBorderIsWhole) {
