@@ -47,7 +47,7 @@ bool entersBesideTheGlass(const light::RayPath& path) {
 bool roundingCounts(double away) {
   RandomRays random(421);
   bool counts = false;
-  for (int i = 0; i < lawRays; ++i) {
+  for (int i = 0; i < 10000; ++i) {
     const light::Lens glass = random.glass(random.index());
     const light::Ray near = random.ray(glass);
     const auto path = traced(glass, {near.start - away * near.direction, near.direction});
@@ -161,7 +161,8 @@ void sayFronts(Page& page) {
   Asked asked = fanFrom({108.0, 25.0});
   asked.rays = Desmi{slope};
   const Point along = rayWithSlope({}, slope, Travel::Left).direction;
-  for (const Recorded& ray : sceneOf(asked).traced->recorded) {
+  const Scene bundle = sceneOf(asked);
+  for (const Recorded& ray : bundle.traced->recorded) {
     EXPECT_NEAR(dot(ray.kymata[1] - onPlane, along), 0.0, 1e-9);
     EXPECT_NEAR(length(ray.kymata[2] - ray.kymata[1]), frontSpacing, 1e-9);
   }

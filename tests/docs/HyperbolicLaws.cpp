@@ -128,7 +128,8 @@ void sayFrontErrors(Page& page) {
     const double slope = std::tan(random.between(-60.0, 60.0) * std::numbers::pi / 180.0);
     asked.rays = Desmi{slope};
     const Point along = rayWithSlope({}, slope, Travel::Left).direction;
-    for (const Recorded& ray : sceneOf(asked).traced->recorded) {
+    const Scene bundle = sceneOf(asked);
+    for (const Recorded& ray : bundle.traced->recorded) {
       for (std::size_t j = 1; j <= lastFront; ++j) {
         if (dot(ray.entry - ray.kymata[j], along) < 1e-9) break;
         square.meet(dot(ray.kymata[j] - Point{130.0, 0.0}, along) -
@@ -137,12 +138,12 @@ void sayFrontErrors(Page& page) {
     }
 
     asked.rays = Fan{{random.between(-120.0, 150.0), random.between(-60.0, 60.0)}};
-    const Scene scene = sceneOf(asked);
+    const Scene fan = sceneOf(asked);
     std::size_t k = 0;
-    for (const light::RayPath& path : scene.traced->paths) {
+    for (const light::RayPath& path : fan.traced->paths) {
       if (!emerged(path)) continue;
       const light::Piece& last = path.way().back();
-      for (const Point p : scene.traced->recorded[k].kymata) {
+      for (const Point p : fan.traced->recorded[k].kymata) {
         if (dot(p - last.from, last.direction) > 1e-9 &&
             std::fabs(cross(last.direction, p - last.from)) < 1e-3) {
           off.meet(cross(last.direction, p - last.from));
