@@ -46,8 +46,9 @@ std::vector<std::string> Page::unchecked() const {
   for (std::size_t i = 0; i < text_.size(); ++i) {
     const char before = i > 0 ? text_[i - 1] : ' ';
     if (!isDigit(text_[i]) || isDigit(before) || isLetter(before) || checked_[i]) continue;
-    const std::size_t from = i < 30 ? 0 : i - 30;
-    numbers.push_back(text_.substr(from, 60));
+    // Whole words, so that no letter of several bytes is cut.
+    const std::size_t from = i < 30 ? 0 : text_.find(' ', i - 30) + 1;
+    numbers.push_back(text_.substr(from, text_.find(' ', i + 30) - from));
   }
   return numbers;
 }
