@@ -59,9 +59,10 @@ require_packages() {
     apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
 
-# Brings build/<preset> up to date; an unchanged tree costs one look of Ninja.
+# Brings build/<preset> up to date, or what further arguments of the build name in it; an unchanged
+# tree costs one look of Ninja.
 build_preset() {
   local preset=$1
   if [[ ! -e build/$preset/build.ninja ]]; then cmake --preset "$preset"; fi
-  cmake --build --preset "$preset"
+  cmake --build --preset "$preset" "${@:2}"
 }

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "optics/poreiaaktinon/RayDrawing.h"
+#include "tests/screens/support/PictureOf.h"
 
 namespace lensbench {
 
@@ -84,14 +85,10 @@ void KelmoTest::sendBundle(const QString& angle) {
 
 QImage KelmoTest::drawn(const poreiaaktinon::Shown& shown,
                         const std::function<void(Canvas&)>& over) {
-  const RasterCanvas& like = screen.canvas();
-  RasterCanvas canvas(like.size(), like.devicePixelRatio(), like.oversampling());
-  canvas.BackColor(like.BackColor());
-  const light::Edges e = edges();
-  canvas.Scale(e.left, e.upper, e.right, e.lower);
-  draw(canvas, shown);
-  if (over) over(canvas);
-  return canvas.image().copy();
+  const auto canvas = canvasLike(screen.canvas());
+  draw(*canvas, shown);
+  if (over) over(*canvas);
+  return canvas->image();
 }
 
 void KelmoTest::drawRay(Canvas& canvas, Point start, Point direction,
