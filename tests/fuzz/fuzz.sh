@@ -9,14 +9,28 @@ source packaging/setup.sh
 inputs=${1:-20000}
 require_packages "${build_packages[@]}" clang libclang-rt-dev llvm
 build_preset fuzz
-for target in light poreiaaktinon protosfakos numbers; do
-  say "== $target"
-  corpus=$PWD/tests/fuzz/corpus/$target
-  found=build/fuzz/found/$target
+
+work() {
+  local target=$1 grow=$2
+  local corpus=$PWD/tests/fuzz/corpus/$target found=build/fuzz/found/$target
   mkdir -p "$found"
-  build/fuzz/tests/fuzz/fuzz_$target -runs="$inputs" -seed=1 -max_len=512 -timeout=10 \
+  "build/fuzz/tests/fuzz/fuzz_$target" -runs="$inputs" -seed=1 -max_len=512 -timeout=10 \
     -artifact_prefix=build/fuzz/ -print_final_stats=1 -verbosity=0 "$found" "$corpus"
-  if (($# > 1)); then
-    build/fuzz/tests/fuzz/fuzz_$target -merge=1 -verbosity=0 "$corpus" "$found"
+  if ((grow)); then
+    "build/fuzz/tests/fuzz/fuzz_$target" -merge=1 -verbosity=0 "$corpus" "$found"
   fi
+}
+
+# All at a time, each with its words in a file until it is done.
+declare -A started
+for target in light poreiaaktinon protosfakos numbers; do
+  work "$target" $(($# > 1)) >"build/fuzz/$target.log" 2>&1 &
+  started[$target]=$!
 done
+status=0
+for target in "${!started[@]}"; do
+  wait "${started[$target]}" || status=1
+  say "== $target"
+  cat "build/fuzz/$target.log"
+done
+exit "$status"

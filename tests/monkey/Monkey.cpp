@@ -117,10 +117,10 @@ Form& Monkey::anyFormInSight() {
 template <typename Part>
 Part* Monkey::anyPart(Form& form) {
   QList<Part*> all = form.findChildren<Part*>();
-  // The toolkit's own parts, such as the button of a menu bar that is too short, open menus that
-  // wait for a hand.
+  // The toolkit's own parts: tool tips come and go with time, and the button of a menu bar that is
+  // too short opens a menu that waits for a hand.
   all.removeIf([](const Part* part) {
-    return part->objectName().isEmpty() || part->objectName().startsWith("qt_");
+    return part->objectName().isEmpty() || part->objectName().startsWith("qt");
   });
   return all.isEmpty() ? nullptr : all[below(static_cast<int>(all.size()))];
 }
