@@ -179,7 +179,7 @@ void Monkey::choose() {
     case 18:
       return tick();
     case 19: {
-      const QSize size{200 + below(900), 150 + below(600)};
+      const QSize size{200 + below(600), 150 + below(450)};
       say(QStringLiteral("size %1 x %2").arg(size.width()).arg(size.height()));
       return form.resize(size);
     }

@@ -17,7 +17,8 @@ if (($# < 2)); then
   exit 2
 fi
 first=$1 last=$2 preset=${3:-test}
-jobs=${JOBS:-$(nproc)}
+# Now and then a run waits for its windows.
+jobs=${JOBS:-$(($(nproc) + 1))}
 folder=build/$preset/monkey
 require_packages "${build_packages[@]}" "${test_packages[@]}"
 build_preset "$preset" --target monkey
