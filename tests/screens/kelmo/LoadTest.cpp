@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "optics/poreiaaktinon/Numbers.h"
+#include "tests/docs/Workbench.h"
 #include "tests/screens/kelmo/KelmoTest.h"
 
 namespace lensbench {
@@ -22,6 +23,12 @@ TEST_F(LoadTest, TheFormHasItsNameCaptionAndWhiteBackground) {
   EXPECT_EQ(screen.Caption(), "SPHERICAL  LENSES");
   EXPECT_EQ(painted(screen.canvas().BackColor()), white);
   EXPECT_TRUE(screen.AutoRedraw());
+}
+
+TEST_F(LoadTest, TheLensIsThatOfThePageOnPhysics) {
+  EXPECT_EQ(screen.fakos(), poreiaaktinon::openingLens);
+  EXPECT_EQ(screen.n(), poreiaaktinon::openingIndex);
+  EXPECT_DOUBLE_EQ(screen.vima(), poreiaaktinon::openingStep);
 }
 
 TEST_F(LoadTest, TextsAreThoseOfTheLoad) {
