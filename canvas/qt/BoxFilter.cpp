@@ -51,21 +51,27 @@ PixelValue mean(const Tiles& source, int left, int top, int k) {
 void shrinkTile(const Tiles& source, PixelValue* out, std::ptrdiff_t stride, const QRect& part,
                 int k) {
   const int x = part.left() * k;
-  const int y = part.top() * k;
-  const auto plain = source.plain(Tiles::tileOf(x), Tiles::tileOf(y));
-  const PixelValue* in = source.row(Tiles::tileOf(x), y) + Tiles::inTile(x);
+  int y = part.top() * k;
+  const int column = Tiles::tileOf(x);
+  const PixelValue ground = source.ground(column, Tiles::tileOf(y));
+  const Tiles::Rows averaged = (Tiles::Rows{1} << k) - 1;
+  Tiles::Rows drawn = source.drawnRows(column, Tiles::tileOf(y)) >> Tiles::inTile(y);
   const auto count = static_cast<std::size_t>(part.width());
-  for (int j = part.height(); j > 0; --j, in += Tiles::side * k, out += stride) {
-    if (plain) {
-      std::fill_n(out, count, *plain);
-    } else if (k == 1) {
-      std::memcpy(out, in, count * sizeof(PixelValue));
-    } else if (count == Tiles::side / 2) {
-      halveTileRow(in, in + Tiles::side, out);
+  for (; y < (part.bottom() + 1) * k; y += k, drawn >>= k, out += stride) {
+    if ((drawn & averaged) == 0) {
+      std::fill_n(out, count, ground);
+      continue;
+    }
+    const PixelValue* const upper = source.row(column, y) + Tiles::inTile(x);
+    if (k == 1) {
+      std::memcpy(out, upper, count * sizeof(PixelValue));
+      continue;
+    }
+    const PixelValue* const lower = source.row(column, y + 1) + Tiles::inTile(x);
+    if (count == Tiles::side / 2) {
+      halveTileRow(upper, lower, out);
     } else {
-      for (std::size_t i = 0; i < count; ++i) {
-        out[i] = meanOfFour(in + 2 * i, in + Tiles::side + 2 * i);
-      }
+      for (std::size_t i = 0; i < count; ++i) out[i] = meanOfFour(upper + 2 * i, lower + 2 * i);
     }
   }
 }

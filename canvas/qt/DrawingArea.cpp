@@ -112,7 +112,18 @@ void DrawingArea::frame(const QRegion& painted) {
         QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
             .toAlignedRect();
   }
-  update(logical - painted);
+  update(logical - painted - covered());
+}
+
+// A control that paints all of itself hides the picture, and would be painted anew for nothing.
+QRegion DrawingArea::covered() const {
+  QRegion region;
+  for (const QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (child->isVisible() && child->testAttribute(Qt::WA_OpaquePaintEvent)) {
+      region += child->geometry();
+    }
+  }
+  return region;
 }
 
 void DrawingArea::paintEvent(QPaintEvent* event) {

@@ -74,6 +74,8 @@ class DrawingArea : public QWidget {
   void bringUpToDate();
   // Brings the picture up to date and shows what has changed outside what is being painted anyway.
   void frame(const QRegion& painted);
+  // Where opaque controls lie over the picture.
+  QRegion covered() const;
   void paintPicture(QPainter& painter, const QRect& part);
   enum class Which { All, InPicture };
   // On a painter in logical pixels.

@@ -14,6 +14,12 @@ using Bits = std::uint32_t;
 using Mask = std::array<Bits, side>;
 static_assert(side == 32);
 
+bool isWhole(const Mask& mask) {
+  Bits all = ~Bits{0};
+  for (const Bits bits : mask) all &= bits;
+  return all == ~Bits{0};
+}
+
 // What the fill knows of a tile.
 struct Visit {
   int column, tileRow;
@@ -56,9 +62,7 @@ class Fill {
 
   void paint(PixelValue colour) {
     for (const Visit& visit : visits_) {
-      Bits all = ~Bits{0};
-      for (const Bits bits : visit.filled) all &= bits;
-      if (all == ~Bits{0}) {
+      if (isWhole(visit.filled)) {
         tiles_.fillTile(visit.column, visit.tileRow, colour);
         continue;
       }
@@ -94,10 +98,11 @@ class Fill {
     const int columns = std::min(side, tiles_.width() - column * side);
     const int rows = std::min(side, tiles_.height() - tileRow * side);
     const Bits inside = ~Bits{0} >> (side - columns);
-    const auto plain = tiles_.plain(column, tileRow);
+    const Tiles::Rows drawn = tiles_.drawnRows(column, tileRow);
+    const Bits ground = tiles_.ground(column, tileRow) == border_ ? 0 : inside;
     for (int j = 0; j < rows; ++j) {
-      if (plain) {
-        open[static_cast<std::size_t>(j)] = *plain == border_ ? 0 : inside;
+      if (!Tiles::has(drawn, j)) {
+        open[static_cast<std::size_t>(j)] = ground;
         continue;
       }
       const PixelValue* const pixels = tiles_.row(column, tileRow * side + j);
@@ -114,7 +119,9 @@ class Fill {
     Visit visit = visits_[static_cast<std::size_t>(number)];
     visit.waiting = false;
     Mask& filled = visit.filled;
-    for (bool more = true; more;) {
+    const bool free = isWhole(visit.open);
+    if (free) filled = visit.open;
+    for (bool more = !free; more;) {
       more = false;
       const auto pass = [&](std::size_t j, Bits beside) {
         const Bits next = spread(filled[j] | beside, visit.open[j]);

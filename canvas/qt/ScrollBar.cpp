@@ -44,7 +44,17 @@ void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
   option->palette.setColor(QPalette::WindowText, option->palette.color(QPalette::ButtonText));
 }
 
+// The styles take it back when they come, lest they leave something of the bar free; see there.
+bool ScrollBar::event(QEvent* event) {
+  const bool done = QScrollBar::event(event);
+  if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+  }
+  return done;
+}
+
 void ScrollBar::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), palette().color(QPalette::Window));
   QScrollBar::paintEvent(event);
   QPainter painter(this);
   QRect free = rect();

@@ -38,6 +38,9 @@ class ScrollBar : public Control<QScrollBar> {
 
  protected:
   void initStyleOption(QStyleOptionSlider* option) const override;
+  // A bar paints all of itself, so that the picture under it need not be painted, nor the bar with
+  // the picture.
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

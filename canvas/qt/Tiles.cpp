@@ -21,8 +21,7 @@ Tiles::Tiles(QSize size, PixelValue colour)
       down_(tilesFor(height_)) {
   const std::size_t count = index(0, down_);
   pages_ = std::make_unique<Page[]>(count);
-  shown_.assign(count, plainPage(colour));
-  painted_.resize(count);
+  tiles_.assign(count, Tile{plainPage(colour)});
   flags_.assign(count, ToShow | ToCopy);
 }
 
@@ -40,18 +39,18 @@ const Tiles::Page* Tiles::plainPage(PixelValue colour) {
   return plains_.back().get();
 }
 
-PixelValue* Tiles::open(std::size_t tile) {
-  if (!isOwn(tile)) {
-    pages_[tile].pixels.fill(shown_[tile]->front());
-    shown_[tile] = &pages_[tile];
+void Tiles::open(std::size_t tile, int row) {
+  Tile& opened = tiles_[tile];
+  if (!has(opened.drawn, row)) {
+    std::fill_n(pages_[tile].row(row), side, opened.ground->front());
+    opened.drawn |= Rows{1} << row;
   }
-  mark(tile);
-  return painted_[tile] = pages_[tile].data();
+  if (opened.ready == 0) mark(tile);
+  opened.ready = opened.drawn;
 }
 
 void Tiles::fillTile(std::size_t tile, const Page* plain) {
-  shown_[tile] = plain;
-  painted_[tile] = nullptr;
+  tiles_[tile] = Tile{plain};
   mark(tile);
 }
 
@@ -61,8 +60,8 @@ void Tiles::fillTile(int column, int tileRow, PixelValue colour) {
 
 void Tiles::clear(PixelValue colour) {
   const Page* const plain = plainPage(colour);
-  for (std::size_t tile = 0; tile < shown_.size(); ++tile) {
-    if (shown_[tile] != plain) fillTile(tile, plain);
+  for (std::size_t tile = 0; tile < tiles_.size(); ++tile) {
+    if (tiles_[tile].drawn != 0 || tiles_[tile].ground != plain) fillTile(tile, plain);
   }
   std::erase_if(plains_, [plain](const auto& page) { return page.get() != plain; });
 }
@@ -74,11 +73,10 @@ void Tiles::resize(QSize size, PixelValue colour) {
     for (int i = 0; i < std::min(across_, old.across_); ++i) {
       const std::size_t from = old.index(i, j);
       const std::size_t to = index(i, j);
-      if (old.isOwn(from)) {
-        pages_[to].pixels = old.pages_[from].pixels;
-        shown_[to] = &pages_[to];
-      } else {
-        shown_[to] = plainPage(old.shown_[from]->front());
+      tiles_[to] = {plainPage(old.tiles_[from].ground->front()), old.tiles_[from].drawn};
+      for (int row = 0; row < side; ++row) {
+        if (!has(tiles_[to].drawn, row)) continue;
+        std::copy_n(old.pages_[from].row(row), side, pages_[to].row(row));
       }
     }
   }
@@ -108,7 +106,8 @@ void Tiles::fillBand(const Band& band, PixelValue colour) {
   Fixed right = band.right;
   for (int y = band.top; y < band.bottom;) {
     const std::size_t tiles = index(0, tileOf(y));
-    PixelValue* const* const painted = painted_.data() + tiles;
+    const Tile* const tile = tiles_.data() + tiles;
+    Page* const page = pages_.get() + tiles;
     const int next = std::min(band.bottom, (tileOf(y) + 1) * side);
     for (; y < next; ++y, left += band.step, right += band.step) {
       const int from = std::max(whole(left), 0);
@@ -119,9 +118,10 @@ void Tiles::fillBand(const Band& band, PixelValue colour) {
         fillAcross(y, from, until, colour);
         continue;
       }
-      PixelValue* pixels = painted[first];
-      if (pixels == nullptr) pixels = open(tiles + static_cast<std::size_t>(first));
-      fillRun(pixels + inTile(y) * side + inTile(from), until - from, colour);
+      if (!has(tile[first].ready, inTile(y))) {
+        open(tiles + static_cast<std::size_t>(first), inTile(y));
+      }
+      fillRun(page[first].row(inTile(y)) + inTile(from), until - from, colour);
     }
   }
 }
@@ -140,7 +140,7 @@ QRegion Tiles::takeChanged() {
       const std::size_t tile = index(i, j);
       if ((flags_[tile] & ToShow) == 0) continue;
       flags_[tile] &= static_cast<std::uint8_t>(~ToShow);
-      painted_[tile] = nullptr;
+      tiles_[tile].ready = 0;
       if (!runs.empty() && i - runs.back().second <= narrow) {
         runs.back().second = i;
       } else {
@@ -175,7 +175,7 @@ void Tiles::copyTo(QImage& image) {
       const std::size_t tile = index(i, j);
       if (!all && (flags_[tile] & ToCopy) == 0) continue;
       flags_[tile] &= static_cast<std::uint8_t>(~ToCopy);
-      painted_[tile] = nullptr;
+      tiles_[tile].ready = 0;
       // Taken late, so that an image that is shared and not changed is not copied.
       if (first == nullptr) first = reinterpret_cast<PixelValue*>(image.bits());
       const auto columns = static_cast<std::size_t>(std::min(side, width_ - i * side));

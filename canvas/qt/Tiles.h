@@ -1,5 +1,5 @@
-// The pixels of the drawing surface, in square tiles of which only those hold memory that something
-// has been drawn on.
+// The pixels of the drawing surface, in square tiles of which only those rows are written that
+// something has been drawn on.
 #pragma once
 
 #include <algorithm>
@@ -19,14 +19,18 @@
 namespace lensbench {
 
 // A tile is a page of memory: a line in any direction stays on few pages and few cache lines. All
-// pages are reserved at once, but the system provides one only when it is written to. A tile on
-// which nothing has been drawn is plain: it shows a page of one colour that all such tiles share.
+// pages are reserved at once, but the system provides one only when it is written to. Rows on which
+// nothing has been drawn are plain: they show the tile's ground, a page of one colour that all such
+// tiles share.
 class Tiles {
  public:
   static constexpr int side = 32;
   // The tile of a column or row of pixels, and its place in it.
   static constexpr int tileOf(int pixel) noexcept { return pixel >> 5; }
   static constexpr int inTile(int pixel) noexcept { return pixel & (side - 1); }
+  // A bit for each row of a tile, the first row lowest.
+  using Rows = std::uint32_t;
+  static constexpr bool has(Rows rows, int row) noexcept { return ((rows >> row) & 1u) != 0; }
 
   Tiles(QSize size, PixelValue colour);
 
@@ -42,20 +46,24 @@ class Tiles {
 
   // The row y of the tiles in a column, as it is.
   const PixelValue* row(int column, int y) const noexcept {
-    return shown_[index(column, tileOf(y))]->data() + inTile(y) * side;
+    const std::size_t tile = index(column, tileOf(y));
+    const Page& page = has(tiles_[tile].drawn, inTile(y)) ? pages_[tile] : *tiles_[tile].ground;
+    return page.row(inTile(y));
   }
   PixelValue at(int x, int y) const noexcept { return row(tileOf(x), y)[inTile(x)]; }
-  // The colour of a tile on which nothing has been drawn.
-  std::optional<PixelValue> plain(int column, int tileRow) const {
-    const std::size_t tile = index(column, tileRow);
-    return isOwn(tile) ? std::nullopt : std::optional(shown_[tile]->front());
+  // Which rows of a tile something has been drawn on, and the colour of the others.
+  Rows drawnRows(int column, int tileRow) const noexcept {
+    return tiles_[index(column, tileRow)].drawn;
+  }
+  PixelValue ground(int column, int tileRow) const noexcept {
+    return tiles_[index(column, tileRow)].ground->front();
   }
 
   // The same row, to be painted.
   PixelValue* paint(int column, int y) {
     const std::size_t tile = index(column, tileOf(y));
-    PixelValue* const pixels = painted_[tile];
-    return (pixels != nullptr ? pixels : open(tile)) + inTile(y) * side;
+    if (!has(tiles_[tile].ready, inTile(y))) open(tile, inTile(y));
+    return pages_[tile].row(inTile(y));
   }
   // A tile of one colour.
   void fillTile(int column, int tileRow, PixelValue colour);
@@ -86,9 +94,14 @@ class Tiles {
     // Not set to anything, so that nothing is written.
     Page() {}  // NOLINT(modernize-use-equals-default, cppcoreguidelines-pro-type-member-init)
     PixelValue front() const noexcept { return pixels[0]; }
-    PixelValue* data() noexcept { return pixels.data(); }
-    const PixelValue* data() const noexcept { return pixels.data(); }
+    const PixelValue* row(int j) const noexcept { return pixels.data() + j * side; }
+    PixelValue* row(int j) noexcept { return pixels.data() + j * side; }
     std::array<PixelValue, side * side> pixels;
+  };
+  struct Tile {
+    const Page* ground;
+    Rows drawn = 0;
+    Rows ready = 0;  // of those, the ones whose tile is marked as changed
   };
   enum Flag : std::uint8_t { ToShow = 1, ToCopy = 2 };
 
@@ -96,10 +109,10 @@ class Tiles {
     return static_cast<std::size_t>(tileRow) * static_cast<std::size_t>(across_) +
            static_cast<std::size_t>(column);
   }
-  bool isOwn(std::size_t tile) const noexcept { return shown_[tile] == &pages_[tile]; }
   static void fillRun(PixelValue* first, int count, PixelValue colour) noexcept;
   void fillAcross(int y, int from, int until, PixelValue colour);
-  PixelValue* open(std::size_t tile);
+  // Makes a row one that can be painted.
+  void open(std::size_t tile, int row);
   const Page* plainPage(PixelValue colour);
   void fillTile(std::size_t tile, const Page* plain);
   void mark(std::size_t tile) noexcept;
@@ -110,8 +123,7 @@ class Tiles {
   int down_;
   bool changed_ = true;
   std::unique_ptr<Page[]> pages_;
-  std::vector<const Page*> shown_;
-  std::vector<PixelValue*> painted_;  // set once a tile is its own and marked as changed
+  std::vector<Tile> tiles_;
   std::vector<std::uint8_t> flags_;
   std::vector<std::unique_ptr<Page>> plains_;
 };

@@ -1,5 +1,6 @@
 // The pixels in tiles are those of a plain image on which the same is done.
 #include <algorithm>
+#include <bit>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
@@ -137,18 +138,18 @@ TEST(Surface, AnySequenceOfOperationsLeavesThePixelsOfAPlainImage) {
   }
 }
 
-TEST(Surface, OnlyTilesThatAreDrawnOnHavePixelsOfTheirOwn) {
+TEST(Surface, OnlyRowsThatAreDrawnOnHavePixelsOfTheirOwn) {
   Tiles tiles({320, 320}, opaque(white));
   const auto own = [&] {
     int n = 0;
     for (int j = 0; j < tiles.down(); ++j) {
-      for (int i = 0; i < tiles.across(); ++i) n += tiles.plain(i, j) ? 0 : 1;
+      for (int i = 0; i < tiles.across(); ++i) n += std::popcount(tiles.drawnRows(i, j));
     }
     return n;
   };
   EXPECT_EQ(own(), 0);
   strokeRound(tiles, {{5, 40}, {100, 40}}, 1.0, opaque(red));
-  EXPECT_EQ(own(), 4);
+  EXPECT_EQ(own(), 2 * 4);
   tiles.takeChanged();
   tiles.clear(opaque(white));
   EXPECT_EQ(own(), 0);
@@ -158,7 +159,7 @@ TEST(Surface, OnlyTilesThatAreDrawnOnHavePixelsOfTheirOwn) {
   EXPECT_FALSE(tiles.changed());
   EXPECT_TRUE(floodFill(tiles, 0, 0, opaque(red), opaque(green)));
   EXPECT_EQ(own(), 0);
-  EXPECT_EQ(tiles.plain(9, 9), opaque(green));
+  EXPECT_EQ(tiles.ground(9, 9), opaque(green));
 }
 
 TEST(Surface, AClearedPictureIsAClearedImage) {
