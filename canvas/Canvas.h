@@ -1,6 +1,7 @@
 // The drawing surface of a screen: user coordinates, drawing properties and drawing operations.
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <span>
 #include <string>
@@ -22,6 +23,7 @@ struct Point {
   double x = 0.0;
   double y = 0.0;
 };
+inline bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
 // How a figure is stroked; width in (logical) pixels. A dotted pen dots only at width 1.
 struct Pen {

@@ -31,8 +31,6 @@ QPen penOf(const Pen& pen, double along) {
   return own;
 }
 
-bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
-
 }  // namespace
 
 PainterCanvas::PainterCanvas(QPainter& painter, const QRectF& target, QSizeF logical)

@@ -26,8 +26,6 @@ Box boxOf(const Tiles& tiles, double margin) {
   return {-margin, -margin, tiles.width() + margin, tiles.height() + margin};
 }
 
-bool isFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
-
 }  // namespace
 
 // A pen in image pixels.

@@ -1,4 +1,4 @@
-// Runs the tests of the screens on the toolkit's offscreen platform.
+// Runs tests inside an application of the toolkit that needs no display.
 #include <gtest/gtest.h>
 
 #include <QApplication>
