@@ -6,8 +6,8 @@
 namespace lensbench {
 namespace {
 
-constexpr double size = 9.0;   // pixels
-constexpr double reach = 8.0;  // of the mouse around its middle, pixels
+constexpr double size = 9.0;       // pixels
+constexpr double markReach = 8.0;  // of the mouse around its middle, pixels
 
 }  // namespace
 
@@ -58,7 +58,7 @@ Point EdgeMark::middle() const {
 
 bool EdgeMark::isAt(Point user) const {
   const Point p = form_.canvas().mapping().toPixel(user);
-  return Visible() && std::hypot(p.x - middle().x, p.y - middle().y) <= reach;
+  return Visible() && std::hypot(p.x - middle().x, p.y - middle().y) <= markReach;
 }
 
 }  // namespace lensbench

@@ -12,12 +12,12 @@
 namespace lensbench::protosfakos {
 namespace {
 
-constexpr int lastRay = 500;  // of the arrays by ray
+constexpr int lastRecordedRay = 500;  // of the arrays by ray
 
 // What the routines share that are not handed all they need.
 struct Room {
   SahlScreen screen;
-  std::vector<Recorded> rays = std::vector<Recorded>(lastRay + 1);
+  std::vector<Recorded> rays = std::vector<Recorded>(lastRecordedRay + 1);
   int plithosaktinon = 0;
   bool arnhtikoShown = false;
 };
@@ -51,13 +51,13 @@ void drawScene(Variant a, Variant b, bool amfikyrtos, const Rays& rays) {
   here.plithosaktinon = traced.plithosaktinon();
   here.arnhtikoShown = false;
   here.rays = traced.recorded;
-  here.rays.resize(lastRay + 1);
+  here.rays.resize(lastRecordedRay + 1);
   drawOver(here.screen.canvas(), {asked, std::make_shared<const Traced>(traced)});
   if (traced.arnhtiko) tellArnhtiko();
 }
 
 void layFrontsOf(Variant k, Point start, double n) {
-  if (!(std::fabs(k.value()) <= lastRay)) {
+  if (!(std::fabs(k.value()) <= lastRecordedRay)) {
     throw RuntimeError(RuntimeError::Code::SubscriptOutOfRange);
   }
   const long index = std::lrint(k.value());
