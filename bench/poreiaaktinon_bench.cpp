@@ -20,6 +20,7 @@ const Bench bench{startLens, 1.5, Diafragma{0.0, 60.0, -60.0}};
 // Rays that all go through both faces.
 std::vector<Point> throughTheLens() {
   std::vector<Point> directions;
+  directions.reserve(1000);
   for (int i = 0; i < 1000; ++i) directions.push_back(unit({1.0, -0.2 + 0.0004 * i}));
   return directions;
 }

@@ -99,7 +99,7 @@ class Tiles {
     std::array<PixelValue, side * side> pixels;
   };
   struct Tile {
-    const Page* ground;
+    const Page* ground = nullptr;
     Rows drawn = 0;
     Rows ready = 0;  // of those, the ones whose tile is marked as changed
   };
