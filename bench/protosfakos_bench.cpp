@@ -24,12 +24,14 @@ struct Start {
 
 std::vector<Start> fanFrom(Point source) {
   std::vector<Start> rays;
+  rays.reserve(61);
   for (int i = 0; i < 61; ++i) rays.push_back({source, (90 - 3 * i) / 100.0});
   return rays;
 }
 
 std::vector<Start> bundleOf(int count, double slope) {
   std::vector<Start> rays;
+  rays.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) rays.push_back({{130.0, 100.0 - 200.0 * i / (count - 1)}, slope});
   return rays;
 }
