@@ -2,36 +2,61 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 #include "canvas/qt/Dialogs.h"
 #include "screens/Handlers.h"
 
 namespace lensbench {
+namespace {
+
+// Bytes; of addresses rather than of memory, since nothing is ever written there.
+constexpr std::size_t reserve = 16 << 20;
+
+}  // namespace
 
 Application::Application(int& argc, char** argv, Dialogs& dialogs, const Actions& actions)
-    : QApplication(argc, argv), dialogs_(dialogs), actions_(actions) {
+    : QApplication(argc, argv),
+      dialogs_(dialogs),
+      actions_(actions),
+      reserve_(std::make_unique_for_overwrite<std::byte[]>(reserve)) {
   setApplicationName(QStringLiteral("lensbench"));
 }
 
+template <typename Work>
+auto Application::guarded(Work work) -> decltype(work()) {
+  try {
+    return work();
+  } catch (const RuntimeError& error) {
+    if (!ending_) endWith(error);
+  } catch (const std::bad_alloc&) {
+    if (!ending_) {
+      reserve_.reset();
+      endWith(outOfMemory());
+    }
+  }
+  // Behind the box of an error, which says enough.
+  return decltype(work())();
+}
+
 bool Application::notify(QObject* receiver, QEvent* event) {
-  try {
-    return QApplication::notify(receiver, event);
-  } catch (const RuntimeError& error) {
-    endWith(error);
-  }
+  return guarded([&] { return QApplication::notify(receiver, event); });
 }
 
-void Application::run(const std::function<void()>& work) {
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    endWith(error);
-  }
-}
+void Application::run(const std::function<void()>& work) { guarded(work); }
 
-void Application::endWith(const RuntimeError& error) {
+void Application::endWith(const RuntimeError& error) noexcept {
+  ending_ = true;
   dialogs_.Critical({}, errorHeadline(error), errorSentence(error, actions_.current()));
   endProcess(EXIT_FAILURE);
+}
+
+RuntimeError outOfMemory() {
+  return RuntimeError(RuntimeError::Code::OutOfMemory,
+                      "Ο υπολογιστής δεν έχει άλλη μνήμη να δώσει· ένα μικρότερο παράθυρο και "
+                      "λιγότερες ακτίνες χρειάζονται λιγότερη. "
+                      "The computer has no more memory to give; a smaller window and fewer rays "
+                      "need less.");
 }
 
 QString errorHeadline(const RuntimeError& error) {

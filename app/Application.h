@@ -1,7 +1,9 @@
 // The application object with the one error boundary of the program.
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <memory>
 
 #include <QApplication>
 
@@ -23,12 +25,20 @@ class Application : public QApplication {
   void run(const std::function<void()>& work);
 
  private:
-  // Shows the error and ends the program with exit status 1.
-  [[noreturn]] void endWith(const RuntimeError& error);
+  template <typename Work>
+  auto guarded(Work work) -> decltype(work());
+  // Shows the error and ends the program with exit status 1. Where there is no memory even for the
+  // box the terminate handler has the last word.
+  [[noreturn]] void endWith(const RuntimeError& error) noexcept;
 
   Dialogs& dialogs_;
   const Actions& actions_;
+  std::unique_ptr<std::byte[]> reserve_;  // what it takes to show a box once memory has run out
+  bool ending_ = false;                   // the box of an error stands open
 };
+
+// How the wish for memory that there is not is told.
+RuntimeError outOfMemory();
 
 // The texts of the error box: what happened, and one plain sentence that says which action met it.
 QString errorHeadline(const RuntimeError& error);

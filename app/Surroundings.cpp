@@ -3,7 +3,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <mutex>
+#include <new>
 
 #include <QFile>
 #include <QFontDatabase>
@@ -44,6 +46,18 @@ void watch(QtMsgType type, const QMessageLogContext& context, const QString& mes
   if (!lookingForDisplay) toolkitsOwn(type, context, message);
 }
 
+void endWithoutMemory() {
+  try {
+    if (const auto error = std::current_exception()) std::rethrow_exception(error);
+  } catch (const std::bad_alloc&) {
+    endFor(
+        "Η μνήμη τελείωσε και το πρόγραμμα τελειώνει. · "
+        "Memory has run out, and the program ends.");
+  } catch (...) {
+  }
+  std::abort();
+}
+
 }  // namespace
 
 void needDisplay() {
@@ -60,6 +74,8 @@ void useOnlyDesktopBus() {
   const bool found = !runtime.isEmpty() && QFile::exists(runtime + QLatin1String("/bus"));
   if (qEnvironmentVariableIsEmpty(address) && !found) qputenv(address, "disabled:");
 }
+
+void needMemory() { std::set_terminate(endWithoutMemory); }
 
 void needGreekFont() {
   if (!QFontDatabase::families(QFontDatabase::Greek).isEmpty()) return;

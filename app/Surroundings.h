@@ -14,6 +14,10 @@ void needDisplay();
 // own, which outlives the program and leaves a file at home.
 void useOnlyDesktopBus();
 
+// Memory, wherever the error boundary does not reach: in the toolkit's threads, in the midst of
+// what may not fail, or where there is none left for its box.
+void needMemory();
+
 // A font with Greek letters, to be asked for once there is an application: boxes teach nobody.
 void needGreekFont();
 

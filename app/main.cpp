@@ -10,6 +10,7 @@
 #include "screens/Handlers.h"
 
 int main(int argc, char** argv) {
+  lensbench::needMemory();
   lensbench::needDisplay();
   lensbench::useOnlyDesktopBus();
   lensbench::QtClock clock;

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs all benchmarks, the screens both without a display and on X11 (a virtual one), and prints
 # one table: each scene in ms, its bare reference and the ratio. Medians; wants an idle machine.
+# Below it stands what memory the program holds, in MiB, and an empty window of the same size.
 # Arguments go to each benchmark, such as --benchmark_filter=fan.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -18,17 +19,24 @@ rm -f "$results"/*.json
 
 # Leaves the figures of one benchmark in a file of its own.
 measure() {
-  local platform=$1 name=$2
+  local platform=$1 name=$2 file=$results/$1-$2${DISPLAY_HEIGHT:+-$DISPLAY_HEIGHT}.json
   shift 2
   say "== $name, $platform"
   # The benchmarks choose the offscreen platform themselves.
   if [[ $platform == xcb ]]; then export QT_QPA_PLATFORM=xcb; fi
-  "$folder/bench_$name" --benchmark_out_format=json \
-    --benchmark_out="$results/$platform-$name.json" "$@" >&2
+  "$folder/bench_$name" --benchmark_out_format=json --benchmark_out="$file" "$@" >&2
 }
 
-for name in poreiaaktinon protosfakos canvas screens start; do measure offscreen "$name" "$@"; done
+for name in poreiaaktinon protosfakos canvas screens start memory; do
+  measure offscreen "$name" "$@"
+done
 trap stop_display EXIT
 start_display 3840x2160
 for name in screens start; do measure xcb "$name" "$@"; done
+# Memory is measured in windows as large as the display.
+for size in 1920x1080 3840x2160 7680x4320; do
+  stop_display
+  start_display "$size"
+  DISPLAY_HEIGHT=${size#*x} measure xcb memory "--benchmark_filter=/${size#*x}" "$@"
+done
 bench/table.py "$results"/*.json

@@ -15,6 +15,8 @@ const char* RuntimeError::greek() const noexcept {
       return "μη έγκυρο όρισμα";
     case Code::Overflow:
       return "υπερχείλιση";
+    case Code::OutOfMemory:
+      return "έλλειψη μνήμης";
     case Code::SubscriptOutOfRange:
       return "δείκτης πίνακα εκτός ορίων";
     case Code::DivisionByZero:
@@ -31,6 +33,8 @@ const char* RuntimeError::english() const noexcept {
       return "Invalid argument";
     case Code::Overflow:
       return "Overflow";
+    case Code::OutOfMemory:
+      return "Out of memory";
     case Code::SubscriptOutOfRange:
       return "Subscript out of range";
     case Code::DivisionByZero:

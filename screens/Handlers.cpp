@@ -24,11 +24,11 @@ ActionScope::ActionScope(Actions& actions, const QObject& sender, By by)
   actions_.current_ = nameOf(sender);
 }
 
-ActionScope::~ActionScope() {
+ActionScope::~ActionScope() noexcept(false) {
   --actions_.depth_;
   if (std::uncaught_exceptions() != errorsBefore_) return;
-  actions_.current_ = outer_;
   if (!actions_.running() && actions_.ended_) actions_.ended_(by_);
+  actions_.current_ = outer_;
 }
 
 }  // namespace lensbench

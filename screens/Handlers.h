@@ -17,7 +17,7 @@ enum class By { Hand, Itself };
 class Actions {
  public:
   // Is told when an action has ended without an error, of actions within others the outermost
-  // alone; must not throw.
+  // alone; its own errors are those of that action.
   void watchBy(std::function<void(By)> ended) { ended_ = std::move(ended); }
   // Whether an action is being carried out.
   [[nodiscard]] bool running() const noexcept { return depth_ > 0; }
@@ -38,7 +38,7 @@ class Actions {
 class ActionScope {
  public:
   ActionScope(Actions& actions, const QObject& sender, By by = By::Hand);
-  ~ActionScope();
+  ~ActionScope() noexcept(false);
   ActionScope(const ActionScope&) = delete;
   ActionScope& operator=(const ActionScope&) = delete;
 

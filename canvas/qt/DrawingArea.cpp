@@ -3,19 +3,24 @@
 #include <algorithm>
 
 #include <QAccessible>
+#include <QBackingStore>
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTimerEvent>
+#include <QWindow>
 
+#include "canvas/qt/NewImage.h"
 #include "canvas/qt/Overlay.h"
 #include "canvas/qt/PainterCanvas.h"
 
 namespace lensbench {
 namespace {
 
-constexpr int tellingPause = 500;  // milliseconds
+// Milliseconds.
+constexpr int tellingPause = 500;
+constexpr int givingBackPause = 1000;
 
 const auto frameEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
@@ -37,6 +42,8 @@ void DrawingArea::fitCanvas() {
   }
   const QSize size = canvas_.size();
   const double ratio = canvas_.devicePixelRatio();
+  // What is drawn anew need not be brought over.
+  if (draw_ && this->size() != size) canvas_.giveUpPixels();
   canvas_.resize(this->size(), devicePixelRatioF());
   if (canvas_.size() != size || canvas_.devicePixelRatio() != ratio) emit canvasResized();
 }
@@ -71,27 +78,60 @@ bool DrawingArea::event(QEvent* event) {
   if (event->type() != frameEvent) return QWidget::event(event);
   frameWanted_ = false;
   // What nobody can see is drawn when it is seen again.
-  if (isVisible() && !window()->isMinimized()) frame({});
+  if (isInSight()) frame({});
   return true;
+}
+
+bool DrawingArea::isInSight() const {
+  const QWindow* const handle = window()->windowHandle();
+  return isVisible() && !window()->isMinimized() && handle != nullptr && handle->isExposed();
+}
+
+// The window learns of it after the area, and then paints what is asked for here.
+bool DrawingArea::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Expose) {
+    const bool before = std::exchange(wasInSight_, isInSight());
+    if (wasInSight_ && !before) update();
+    if (before && !wasInSight_) giveUpPixels();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 // Also when a minimised window is restored, which needs not paint it.
 void DrawingArea::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  window()->windowHandle()->installEventFilter(this);
   update();
 }
 
+// Also when the window is minimised.
 void DrawingArea::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
+  giveUpPixels();
+}
+
+void DrawingArea::giveUpPixels() {
   strip_ = {};
+  beforeGivingBack_.stop();
   // Without anyone who draws it anew a picture is kept.
   if (draw_) canvas_.giveUpPixels();
+  // The toolkit keeps a picture of the whole window; it brings one of another size to that of the
+  // window and paints all of it before it shows it again.
+  const QWindow* const handle = window()->windowHandle();
+  QBackingStore* const store = window()->backingStore();
+  if (store != nullptr && handle != nullptr && handle->handle() != nullptr) store->resize({1, 1});
 }
 
 void DrawingArea::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != beforeTelling_.timerId()) return QWidget::timerEvent(event);
-  beforeTelling_.stop();
-  tellWords();
+  if (event->timerId() == beforeTelling_.timerId()) {
+    beforeTelling_.stop();
+    tellWords();
+  } else if (event->timerId() == beforeGivingBack_.timerId()) {
+    beforeGivingBack_.stop();
+    canvas_.giveBackSpare();
+  } else {
+    QWidget::timerEvent(event);
+  }
 }
 
 void DrawingArea::tellWords() {
@@ -105,6 +145,7 @@ void DrawingArea::tellWords() {
 
 void DrawingArea::frame(const QRegion& painted) {
   bringUpToDate();
+  if (!beforeGivingBack_.isActive()) beforeGivingBack_.start(givingBackPause, this);
   const double ratio = canvas_.devicePixelRatio();
   QRegion logical;
   for (const QRect& part : canvas_.takeDirty()) {
@@ -139,7 +180,7 @@ void DrawingArea::paintEvent(QPaintEvent* event) {
 
 QImage DrawingArea::picture() {
   bringUpToDate();
-  QImage picture(canvas_.displaySize(), QImage::Format_RGB32);
+  QImage picture = newImage(canvas_.displaySize());
   picture.setDevicePixelRatio(canvas_.devicePixelRatio());
   QPainter painter(&picture);
   paintPicture(painter, QRect(QPoint(0, 0), canvas_.size()));
@@ -196,7 +237,7 @@ void DrawingArea::paintPicture(QPainter& painter, const QRect& part) {
   painter.scale(1.0 / ratio, 1.0 / ratio);
   for (int y = device.top(); y <= device.bottom(); y += stripHeight) {
     const QSize size(device.width(), std::min(stripHeight, device.bottom() + 1 - y));
-    if (strip_.size() != size) strip_ = QImage(size, QImage::Format_RGB32);
+    if (strip_.size() != size) strip_ = newImage(size);
     canvas_.showIn(strip_, {device.left(), y});
     painter.drawImage(device.left(), y, strip_);
   }

@@ -60,6 +60,7 @@ class DrawingArea : public QWidget {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent*) override { fitCanvas(); }
   void showEvent(QShowEvent* event) override;
@@ -70,6 +71,10 @@ class DrawingArea : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override { emit released(event); }
 
  private:
+  // Whether the window is on a display: neither hidden nor minimised nor, say, on another desktop.
+  bool isInSight() const;
+  // Holds no pixels until it is in sight again.
+  void giveUpPixels();
   void wantFrame();
   void bringUpToDate();
   // Brings the picture up to date and shows what has changed outside what is being painted anyway.
@@ -89,9 +94,11 @@ class DrawingArea : public QWidget {
   std::function<QString()> inWords_;
   QString toldWords_;
   QBasicTimer beforeTelling_;
+  QBasicTimer beforeGivingBack_;
   bool stale_ = false;
   bool drawing_ = false;
   bool frameWanted_ = false;
+  bool wasInSight_ = false;  // when the display last told of it
 };
 
 }  // namespace lensbench

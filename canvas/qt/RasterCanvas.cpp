@@ -12,6 +12,7 @@
 #include "canvas/qt/Chords.h"
 #include "canvas/qt/FloodFill.h"
 #include "canvas/qt/Fonts.h"
+#include "canvas/qt/NewImage.h"
 
 namespace lensbench {
 namespace {
@@ -271,7 +272,7 @@ double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Fon
   if (!isFinite(middle) || touched.isEmpty()) return lineHeight;
   // Blended with what is there: copied out, drawn on, and put back.
   const QRect area = touched.toAlignedRect() & all.toRect();
-  page = QImage(area.size(), QImage::Format_RGB32);
+  page = newImage(area.size());
   boxFilter(tiles_, page, area.topLeft(), 1);
   QPainter painter(&page);
   painter.translate(-area.topLeft());

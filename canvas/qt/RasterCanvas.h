@@ -50,6 +50,8 @@ class RasterCanvas final : public QObject, public Canvas {
   void setOversampling(int k);
   // Holds no pixels until something is drawn again: everything has BackColor.
   void giveUpPixels();
+  // Keeps the memory of the present picture only, and not what earlier ones needed.
+  void giveBackSpare() { tiles_.giveBackSpare(); }
 
   // What has changed since the last call, in pixels of the display; afterwards nothing has.
   QRegion takeDirty();

@@ -1,8 +1,12 @@
 #include "canvas/qt/Tiles.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
 #include <utility>
 
 #include <QRect>
+
+#include "canvas/qt/NewImage.h"
 
 namespace lensbench {
 namespace {
@@ -21,6 +25,8 @@ Tiles::Tiles(QSize size, PixelValue colour)
       down_(tilesFor(height_)) {
   const std::size_t count = index(0, down_);
   pages_ = std::make_unique<Page[]>(count);
+  // A huge page would bring in hundreds of tiles on which nothing is drawn.
+  ::madvise(pages_.get(), count * sizeof(Page), MADV_NOHUGEPAGE);
   tiles_.assign(count, Tile{plainPage(colour)});
   flags_.assign(count, ToShow | ToCopy);
 }
@@ -64,6 +70,21 @@ void Tiles::clear(PixelValue colour) {
     if (tiles_[tile].drawn != 0 || tiles_[tile].ground != plain) fillTile(tile, plain);
   }
   std::erase_if(plains_, [plain](const auto& page) { return page.get() != plain; });
+}
+
+void Tiles::giveBackSpare() {
+  // A page of the system may hold several tiles, and goes with the last of them.
+  const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  const auto address = [this](std::size_t tile) {
+    return reinterpret_cast<std::uintptr_t>(pages_.get() + tile);
+  };
+  for (std::size_t tile = 0; tile < tiles_.size(); ++tile) {
+    const std::size_t first = tile;
+    while (tile < tiles_.size() && tiles_[tile].drawn == 0) ++tile;
+    const std::uintptr_t from = (address(first) + page - 1) / page * page;
+    const std::uintptr_t until = address(tile) / page * page;
+    if (from < until) ::madvise(reinterpret_cast<void*>(from), until - from, MADV_DONTNEED);
+  }
 }
 
 void Tiles::resize(QSize size, PixelValue colour) {
@@ -167,7 +188,7 @@ QRegion Tiles::takeChanged() {
 
 void Tiles::copyTo(QImage& image) {
   const bool all = image.size() != QSize(width_, height_);
-  if (all) image = QImage(width_, height_, QImage::Format_RGB32);
+  if (all) image = newImage({width_, height_});
   const auto stride = image.bytesPerLine() / static_cast<qsizetype>(sizeof(PixelValue));
   PixelValue* first = nullptr;
   for (int j = 0; j < down_; ++j) {

@@ -41,6 +41,8 @@ class Tiles {
 
   // One colour everywhere. The memory of earlier pictures is kept for the next ones.
   void clear(PixelValue colour);
+  // Gives the memory of earlier pictures back, as far as the present one does not need it.
+  void giveBackSpare();
   // What there is stays where it is, a new strip has the colour.
   void resize(QSize size, PixelValue colour);
 
@@ -90,7 +92,8 @@ class Tiles {
   void copyTo(QImage& image);
 
  private:
-  struct alignas(64) Page {
+  // Where a page of the system begins, or else a tile alone would keep two of them.
+  struct alignas(side* side * sizeof(PixelValue)) Page {
     // Not set to anything, so that nothing is written.
     Page() {}  // NOLINT(modernize-use-equals-default, cppcoreguidelines-pro-type-member-init)
     PixelValue front() const noexcept { return pixels[0]; }

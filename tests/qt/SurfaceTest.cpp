@@ -1,8 +1,10 @@
 // The pixels in tiles are those of a plain image on which the same is done.
 #include <algorithm>
 #include <bit>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <random>
+#include <unistd.h>
 #include <vector>
 
 #include "canvas/qt/FloodFill.h"
@@ -160,6 +162,46 @@ TEST(Surface, OnlyRowsThatAreDrawnOnHavePixelsOfTheirOwn) {
   EXPECT_TRUE(floodFill(tiles, 0, 0, opaque(red), opaque(green)));
   EXPECT_EQ(own(), 0);
   EXPECT_EQ(tiles.ground(9, 9), opaque(green));
+}
+
+// Bytes of memory that the process holds.
+std::size_t resident() {
+  std::ifstream pages("/proc/self/statm");
+  std::size_t total = 0;
+  std::size_t held = 0;
+  pages >> total >> held;
+  return held * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+TEST(Surface, WhatOnlyEarlierPicturesNeededIsGivenBack) {
+  constexpr int side = 4096;
+  constexpr std::size_t all = std::size_t{side} * side * sizeof(PixelValue);
+  Tiles tiles({side, side}, opaque(white));
+  const std::size_t before = resident();
+  for (int y = 0; y < side; y += Tiles::side) tiles.fill(y, 0, side, opaque(red));
+  EXPECT_GT(resident(), before + all / 10 * 9);
+  tiles.clear(opaque(white));
+  strokeRound(tiles, {{5, 40}, {4000, 1100}}, 1.0, opaque(red));
+  strokeRound(tiles, {{60, 4000}, {70, 30}}, 3.0, opaque(green));
+  QImage picture;
+  tiles.copyTo(picture);
+  picture = picture.copy();
+  const std::size_t full = resident();
+  tiles.giveBackSpare();
+  EXPECT_LT(resident(), full - all / 10 * 9);
+  QImage same;
+  tiles.copyTo(same);
+  EXPECT_EQ(same, picture);
+  // What has been given back can be drawn on.
+  strokeRound(tiles, {{4000, 5}, {30, 4000}}, 2.0, opaque(black));
+  Tiles fresh({side, side}, opaque(white));
+  strokeRound(fresh, {{5, 40}, {4000, 1100}}, 1.0, opaque(red));
+  strokeRound(fresh, {{60, 4000}, {70, 30}}, 3.0, opaque(green));
+  strokeRound(fresh, {{4000, 5}, {30, 4000}}, 2.0, opaque(black));
+  QImage drawn;
+  fresh.copyTo(drawn);
+  tiles.copyTo(same);
+  EXPECT_EQ(same, drawn);
 }
 
 TEST(Surface, AClearedPictureIsAClearedImage) {

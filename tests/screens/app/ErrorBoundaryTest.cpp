@@ -1,10 +1,14 @@
 // An error that escapes a handler is shown and ends the program with exit status 1.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <new>
 
 #include <QCoreApplication>
+#include <QTest>
 #include <QTimer>
 
 #include "canvas/RuntimeError.h"
+#include "canvas/qt/DrawingArea.h"
 #include "screens/ElSahl/ElSahl.h"
 #include "screens/kelmo/kelmo.h"
 #include "screens/moniaktina/moniaktina.h"
@@ -84,6 +88,70 @@ TEST(ErrorBoundary, AnAngleThatIsNoNumberEndsTheProgramAndNamesTheAction) {
 TEST(ErrorBoundary, StandsAroundStartUpToo) {
   EXPECT_EXIT({ Shell::instance->application.run([] { throwOverflow(); }); },
               ::testing::ExitedWithCode(1), "Error 6: Overflow(.|\n)*at start-up");
+}
+
+TEST(ErrorBoundary, SaysThatMemoryHasRunOut) {
+  const RuntimeError error = outOfMemory();
+  EXPECT_EQ(errorHeadline(error), "Σφάλμα 7: έλλειψη μνήμης · Error 7: Out of memory");
+  EXPECT_EQ(errorSentence(error, "Πλάτος · Width"),
+            "Ο υπολογιστής δεν έχει άλλη μνήμη να δώσει· ένα μικρότερο παράθυρο και λιγότερες "
+            "ακτίνες χρειάζονται λιγότερη. "
+            "The computer has no more memory to give; a smaller window and fewer rays need less.\n"
+            "Συνέβη στην ενέργεια «Πλάτος» και το πρόγραμμα τελειώνει. "
+            "It happened at the action “Width”, and the program ends.");
+}
+
+TEST(ErrorBoundary, StandsWhereverMemoryRunsOut) {
+  EXPECT_EXIT({ Shell::instance->application.run([] { throw std::bad_alloc(); }); },
+              ::testing::ExitedWithCode(1), "Error 7: Out of memory(.|\n)*at start-up");
+  // In a handler, after it, when it becomes a step, and while a picture is drawn.
+  EXPECT_EXIT(
+      {
+        Program program;
+        Main(program.screens);
+        auto& bar = program.screens.kelmo().controls().aktina1;
+        QObject::connect(&bar, &ScrollBar::Change, [] { throw std::bad_alloc(); });
+        QTimer::singleShot(0, [&bar] { bar.Value(77); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1), "Error 7: Out of memory");
+  EXPECT_EXIT(
+      {
+        Program program;
+        Main(program.screens);
+        Shell::instance->actions.watchBy([](By) { throw std::bad_alloc(); });
+        auto& bar = program.screens.kelmo().controls().aktina1;
+        QTimer::singleShot(0, [&bar] { bar.Value(77); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1), "Error 7: Out of memory(.|\n)*Radius");
+  EXPECT_EXIT(
+      {
+        Program program;
+        Main(program.screens);
+        program.screens.kelmo().area().drawBy([] { throw std::bad_alloc(); });
+        program.screens.kelmo().area().stale();
+        QTest::qWait(200);
+      },
+      ::testing::ExitedWithCode(1), "Error 7: Out of memory");
+}
+
+TEST(ErrorBoundary, ASecondErrorBehindTheBoxIsNotToldToo) {
+  using ::testing::HasSubstr;
+  using ::testing::Not;
+  EXPECT_EXIT(
+      {
+        Shell::instance->boxes.whileOpen = [] {
+          QTimer::singleShot(0, [] { throwDivisionByZero(); });
+          QTimer::singleShot(0, [] { throw std::bad_alloc(); });
+          deliverEvents();
+        };
+        QTimer::singleShot(0, [] { throwOverflow(); });
+        deliverEvents();
+      },
+      ::testing::ExitedWithCode(1),
+      ::testing::AllOf(HasSubstr("Error 6"), Not(HasSubstr("Error 11")),
+                       Not(HasSubstr("Error 7"))));
 }
 
 }  // namespace

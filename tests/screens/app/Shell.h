@@ -22,6 +22,7 @@ class SpokenDialogs : public FakeDialogs {
   void Critical(const QString& /*title*/, const QString& text,
                 const QString& informative) override {
     std::cerr << text.toStdString() << '\n' << informative.toStdString() << '\n';
+    if (whileOpen) whileOpen();
   }
 };
 
