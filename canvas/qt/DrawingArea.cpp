@@ -87,9 +87,9 @@ bool DrawingArea::isInSight() const {
   return isVisible() && !window()->isMinimized() && handle != nullptr && handle->isExposed();
 }
 
-// The window learns of it after the area, and then paints what is asked for here.
+// Told before the window is, which then paints what is asked for here.
 bool DrawingArea::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Expose) {
+  if (event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange) {
     const bool before = std::exchange(wasInSight_, isInSight());
     if (wasInSight_ && !before) update();
     if (before && !wasInSight_) giveUpPixels();
@@ -100,11 +100,11 @@ bool DrawingArea::eventFilter(QObject* watched, QEvent* event) {
 // Also when a minimised window is restored, which needs not paint it.
 void DrawingArea::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  window()->installEventFilter(this);
   window()->windowHandle()->installEventFilter(this);
   update();
 }
 
-// Also when the window is minimised.
 void DrawingArea::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   giveUpPixels();
@@ -168,6 +168,8 @@ QRegion DrawingArea::covered() const {
 }
 
 void DrawingArea::paintEvent(QPaintEvent* event) {
+  // Not every display keeps the toolkit from painting a minimised window.
+  if (window()->isMinimized()) return;
   if (canvas_.devicePixelRatio() != devicePixelRatioF()) fitCanvas();
   if (inWords_ && QAccessible::isActive() && !beforeTelling_.isActive()) {
     beforeTelling_.start(tellingPause, this);

@@ -98,7 +98,7 @@ class DrawingArea : public QWidget {
   bool stale_ = false;
   bool drawing_ = false;
   bool frameWanted_ = false;
-  bool wasInSight_ = false;  // when the display last told of it
+  bool wasInSight_ = false;  // when the window last told of it
 };
 
 }  // namespace lensbench

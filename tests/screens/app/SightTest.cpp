@@ -60,6 +60,9 @@ class SightTest : public ::testing::Test {
   void expectSameAgain(Screen& screen, const std::function<void()>& change) {
     for (const Way& way : ways) {
       SCOPED_TRACE(way.name);
+      // In front, as it will be when it comes back.
+      screen.Show();
+      wait();
       const QImage before = displayed(screen);
       way.leave(screen);
       wait();
