@@ -1,5 +1,6 @@
 #include "canvas/qt/ScrollBar.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyleOptionSlider>
 
