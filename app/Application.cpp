@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <new>
 
+#include <QThread>
+
 #include "canvas/qt/Dialogs.h"
 #include "screens/Handlers.h"
 
@@ -30,6 +32,8 @@ auto Application::guarded(Work work) -> decltype(work()) {
   } catch (const RuntimeError& error) {
     if (!ending_) endWith(error);
   } catch (const std::bad_alloc&) {
+    // Boxes belong to the thread of the windows; the toolkit's others have to tell for themselves.
+    if (QThread::currentThread() != thread()) throw;
     if (!ending_) {
       reserve_.reset();
       endWith(outOfMemory());

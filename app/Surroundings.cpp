@@ -46,6 +46,8 @@ void watch(QtMsgType type, const QMessageLogContext& context, const QString& mes
   if (!lookingForDisplay) toolkitsOwn(type, context, message);
 }
 
+std::terminate_handler endOtherwise = nullptr;
+
 void endWithoutMemory() {
   try {
     if (const auto error = std::current_exception()) std::rethrow_exception(error);
@@ -55,7 +57,7 @@ void endWithoutMemory() {
         "Memory has run out, and the program ends.");
   } catch (...) {
   }
-  std::abort();
+  endOtherwise();
 }
 
 }  // namespace
@@ -75,7 +77,7 @@ void useOnlyDesktopBus() {
   if (qEnvironmentVariableIsEmpty(address) && !found) qputenv(address, "disabled:");
 }
 
-void needMemory() { std::set_terminate(endWithoutMemory); }
+void needMemory() { endOtherwise = std::set_terminate(endWithoutMemory); }
 
 void needGreekFont() {
   if (!QFontDatabase::families(QFontDatabase::Greek).isEmpty()) return;

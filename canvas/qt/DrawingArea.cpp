@@ -97,7 +97,7 @@ bool DrawingArea::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-// Also when a minimised window is restored, which needs not paint it.
+// Also when a minimised window is restored, which need not be painted then.
 void DrawingArea::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   window()->installEventFilter(this);
@@ -115,8 +115,10 @@ void DrawingArea::giveUpPixels() {
   beforeGivingBack_.stop();
   // Without anyone who draws it anew a picture is kept.
   if (draw_) canvas_.giveUpPixels();
-  // The toolkit keeps a picture of the whole window; it brings one of another size to that of the
-  // window and paints all of it before it shows it again.
+  // The toolkit keeps a picture of the whole window; when a hidden or minimised one comes back it
+  // brings one of another size to that of the window and paints all of it. It does not for a window
+  // that was on another desktop.
+  if (isVisible() && !window()->isMinimized()) return;
   const QWindow* const handle = window()->windowHandle();
   QBackingStore* const store = window()->backingStore();
   if (store != nullptr && handle != nullptr && handle->handle() != nullptr) store->resize({1, 1});

@@ -87,7 +87,14 @@ void RasterCanvas::setOversampling(int k) {
   loseAll();
 }
 
-void RasterCanvas::giveUpPixels() { loseAll(); }
+// Needs no memory: it may be asked for because there is none left.
+void RasterCanvas::giveUpPixels() {
+  tiles_.clear(background());
+  tiles_.giveBackSpare();
+  image_ = {};
+  tellChange();
+  emit pictureLost();
+}
 
 void RasterCanvas::loseAll() {
   tiles_ = Tiles(imageSize(), background());

@@ -45,7 +45,7 @@ void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
   option->palette.setColor(QPalette::WindowText, option->palette.color(QPalette::ButtonText));
 }
 
-// The styles take it back when they come, lest they leave something of the bar free; see there.
+// Styles that leave something of a bar free take that back; here it is painted.
 bool ScrollBar::event(QEvent* event) {
   const bool done = QScrollBar::event(event);
   if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {

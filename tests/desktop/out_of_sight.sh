@@ -32,6 +32,8 @@ xdotool set_desktop 1
 settle
 expect_less "$in_sight"
 xdotool set_desktop 0
+# The window manager says for a moment, in a box over the picture, which desktop this is.
+sleep 1.5
 shot after_desktop
 expect_same fan after_desktop
 

@@ -47,8 +47,7 @@ Outcome runWithActions(int run, const std::string& actions) {
       lensbench::runMonkey(static_cast<unsigned>(run), actionsOfARun, [&](const QString& action) {
         file << action.toStdString() << '\n' << std::flush;
       });
-  if (outcome.failure.isEmpty())
-    std::remove(actions.c_str());
+  if (outcome.failure.isEmpty()) std::remove(actions.c_str());
   return outcome;
 }
 
