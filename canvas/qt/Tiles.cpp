@@ -1,5 +1,6 @@
 #include "canvas/qt/Tiles.h"
 
+#include <cstddef>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
@@ -75,15 +76,15 @@ void Tiles::clear(PixelValue colour) {
 void Tiles::giveBackSpare() {
   // A page of the system may hold several tiles, and goes with the last of them.
   const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
-  const auto address = [this](std::size_t tile) {
-    return reinterpret_cast<std::uintptr_t>(pages_.get() + tile);
-  };
+  auto* const memory = reinterpret_cast<std::byte*>(pages_.get());
+  const auto begin = reinterpret_cast<std::uintptr_t>(memory);
+  const auto address = [begin](std::size_t tile) { return begin + tile * sizeof(Page); };
   for (std::size_t tile = 0; tile < tiles_.size(); ++tile) {
     const std::size_t first = tile;
     while (tile < tiles_.size() && tiles_[tile].drawn == 0) ++tile;
     const std::uintptr_t from = (address(first) + page - 1) / page * page;
     const std::uintptr_t until = address(tile) / page * page;
-    if (from < until) ::madvise(reinterpret_cast<void*>(from), until - from, MADV_DONTNEED);
+    if (from < until) ::madvise(memory + (from - begin), until - from, MADV_DONTNEED);
   }
 }
 
