@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <string>
 
 #include <QApplication>
 #include <QMainWindow>
@@ -25,6 +24,7 @@
 #include "screens/moniaktina/moniaktina.h"
 #include "tests/screens/support/FakeDialogs.h"
 #include "tests/support/HandClock.h"
+#include "tests/support/Memory.h"
 
 namespace lensbench {
 namespace {
@@ -32,20 +32,10 @@ namespace {
 constexpr int shownAfter = 150;    // ms, in which a picture has come to the display
 constexpr int atRestAfter = 1500;  // ms, in which what nobody needs any more is given back
 
-// What the system says about this process, in MiB: "VmRSS", or its highest value, "VmHWM".
-double memory(const std::string& what) {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0.0;
-    if (word == what + ":" && status >> kilobytes) return kilobytes / 1024.0;
-  }
-  return 0.0;
-}
-
 // What a measurement tells the one that started it.
 void tell(double growth = 0.0) {
   QTest::qWait(atRestAfter);
-  std::printf("%f %f %f\n", memory("VmRSS"), memory("VmHWM"), growth);
+  std::printf("%f %f %f\n", memoryMiB("VmRSS"), memoryMiB("VmHWM"), growth);
 }
 
 struct Program {
@@ -137,9 +127,9 @@ double growthOver(int actions, Program& program) {
   };
   program.screens.toggleFollow();
   act(1000);
-  const double before = memory("VmRSS");
+  const double before = memoryMiB("VmRSS");
   act(actions);
-  return memory("VmRSS") - before;
+  return memoryMiB("VmRSS") - before;
 }
 
 int measureSelf(const QString& what) {

@@ -155,7 +155,8 @@ void DrawingArea::frame(const QRegion& painted) {
         QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
             .toAlignedRect();
   }
-  update(logical - painted - covered());
+  const QRegion left = logical - painted;
+  if (!left.isEmpty()) update(left - covered());
 }
 
 // A control that paints all of itself hides the picture, and would be painted anew for nothing.

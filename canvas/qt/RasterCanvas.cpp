@@ -91,13 +91,15 @@ void RasterCanvas::setOversampling(int k) {
 void RasterCanvas::giveUpPixels() {
   tiles_.clear(background());
   tiles_.giveBackSpare();
-  image_ = {};
-  tellChange();
-  emit pictureLost();
+  forgetPicture();
 }
 
 void RasterCanvas::loseAll() {
   tiles_ = Tiles(imageSize(), background());
+  forgetPicture();
+}
+
+void RasterCanvas::forgetPicture() {
   image_ = {};
   tellChange();
   emit pictureLost();

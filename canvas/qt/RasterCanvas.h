@@ -90,6 +90,8 @@ class RasterCanvas final : public QObject, public Canvas {
   void paintPiece(const Stroke& stroke, const Segment& line);
   void paintDashes(const Stroke& stroke, const Segment& line, double phase);
   void loseAll();
+  // The tiles have nothing on them any more.
+  void forgetPicture();
   void tellChange();
 
   QSize logical_;

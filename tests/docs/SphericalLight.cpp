@@ -43,12 +43,6 @@ void meetFaces(const Bench& bench, const RayPath& path, double& residual, double
   }
 }
 
-// Well outside one of the circles, and so in the air.
-bool inAir(const Fakos& fakos, Point p) {
-  return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
-         length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
-}
-
 double distance(const Leg& leg, Point p) {
   return static_cast<double>(std::hypot(leg.x - p.x, leg.y - p.y));
 }

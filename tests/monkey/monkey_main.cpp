@@ -11,6 +11,7 @@
 #include <QApplication>
 
 #include "tests/monkey/Run.h"
+#include "tests/support/Memory.h"
 
 namespace {
 
@@ -27,10 +28,7 @@ constexpr long allowedGrowth = 16;  // MiB
 // Of this process, with what has been freed given back; MiB.
 long residentMemory() {
   malloc_trim(0);
-  long pages = 0;
-  long resident = 0;
-  std::ifstream("/proc/self/statm") >> pages >> resident;
-  return resident * sysconf(_SC_PAGESIZE) / (1024 * 1024);
+  return static_cast<long>(lensbench::memoryMiB("VmRSS"));
 }
 
 std::set<int> runsIn(const std::string& results) {

@@ -1,10 +1,8 @@
 // The pixels in tiles are those of a plain image on which the same is done.
 #include <algorithm>
 #include <bit>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <random>
-#include <unistd.h>
 #include <vector>
 
 #include "canvas/qt/FloodFill.h"
@@ -12,6 +10,7 @@
 #include "canvas/qt/Strokes.h"
 #include "canvas/qt/Tiles.h"
 #include "tests/qt/Pictures.h"
+#include "tests/support/Memory.h"
 
 namespace lensbench {
 namespace {
@@ -164,31 +163,22 @@ TEST(Surface, OnlyRowsThatAreDrawnOnHavePixelsOfTheirOwn) {
   EXPECT_EQ(tiles.ground(9, 9), opaque(green));
 }
 
-// Bytes of memory that the process holds.
-std::size_t resident() {
-  std::ifstream pages("/proc/self/statm");
-  std::size_t total = 0;
-  std::size_t held = 0;
-  pages >> total >> held;
-  return held * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-}
-
 TEST(Surface, WhatOnlyEarlierPicturesNeededIsGivenBack) {
   constexpr int side = 4096;
-  constexpr std::size_t all = std::size_t{side} * side * sizeof(PixelValue);
+  constexpr double all = side * side * sizeof(PixelValue) / double{1 << 20};  // MiB
   Tiles tiles({side, side}, opaque(white));
-  const std::size_t before = resident();
+  const double before = memoryMiB("VmRSS");
   for (int y = 0; y < side; y += Tiles::side) tiles.fill(y, 0, side, opaque(red));
-  EXPECT_GT(resident(), before + all / 10 * 9);
+  EXPECT_GT(memoryMiB("VmRSS"), before + all / 10 * 9);
   tiles.clear(opaque(white));
   strokeRound(tiles, {{5, 40}, {4000, 1100}}, 1.0, opaque(red));
   strokeRound(tiles, {{60, 4000}, {70, 30}}, 3.0, opaque(green));
   QImage picture;
   tiles.copyTo(picture);
   picture = picture.copy();
-  const std::size_t full = resident();
+  const double full = memoryMiB("VmRSS");
   tiles.giveBackSpare();
-  EXPECT_LT(resident(), full - all / 10 * 9);
+  EXPECT_LT(memoryMiB("VmRSS"), full - all / 10 * 9);
   QImage same;
   tiles.copyTo(same);
   EXPECT_EQ(same, picture);

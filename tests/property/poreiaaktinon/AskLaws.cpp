@@ -39,12 +39,6 @@ std::string number(double value) {
   return text == "-0" ? "0" : text;
 }
 
-// Well outside one circle at least: rays from there start in air.
-bool inAir(const Fakos& fakos, Point p) {
-  return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
-         length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
-}
-
 // A fan in a picture, one ray of it, and that ray by the second tracer.
 struct RandomHit {
   Bench bench;

@@ -21,12 +21,6 @@ using light::pointAtOpticalPath;
 using light::RayPath;
 using light::Side;
 
-// Well outside one of the circles at least, and so outside the lens: rays from there start in air.
-bool inAir(const Fakos& fakos, Point p) {
-  return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
-         length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
-}
-
 bool sameFaces(const RayPath& one, const RayPath& other) {
   return one.count == other.count && one.meetings[0].face == other.meetings[0].face &&
          one.meetings[1].face == other.meetings[1].face;

@@ -53,4 +53,10 @@ inline light::RayPath traced(const Bench& bench, Point start, Point direction) {
                       conditionsOf(bench, RandomBench::edges));
 }
 
+// Well outside one of the circles, and so in the air.
+inline bool inAir(const Fakos& fakos, Point p) {
+  return length(p - Point{fakos.xc2, 0.0}) > 1.001 * fakos.R2 ||
+         length(p - Point{fakos.xc1, 0.0}) > 1.001 * fakos.R1;
+}
+
 }  // namespace lensbench::poreiaaktinon

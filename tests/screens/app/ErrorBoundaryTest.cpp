@@ -101,6 +101,13 @@ TEST(ErrorBoundary, SaysThatMemoryHasRunOut) {
             "It happened at the action “Width”, and the program ends.");
 }
 
+// As a person does, from an event.
+void moveBar(Program& program) {
+  auto& bar = program.screens.kelmo().controls().aktina1;
+  QTimer::singleShot(0, [&bar] { bar.Value(77); });
+  deliverEvents();
+}
+
 TEST(ErrorBoundary, StandsWhereverMemoryRunsOut) {
   EXPECT_EXIT({ Shell::instance->application.run([] { throw std::bad_alloc(); }); },
               ::testing::ExitedWithCode(1), "Error 7: Out of memory(.|\n)*at start-up");
@@ -109,10 +116,9 @@ TEST(ErrorBoundary, StandsWhereverMemoryRunsOut) {
       {
         Program program;
         Main(program.screens);
-        auto& bar = program.screens.kelmo().controls().aktina1;
-        QObject::connect(&bar, &ScrollBar::Change, [] { throw std::bad_alloc(); });
-        QTimer::singleShot(0, [&bar] { bar.Value(77); });
-        deliverEvents();
+        QObject::connect(&program.screens.kelmo().controls().aktina1, &ScrollBar::Change,
+                         [] { throw std::bad_alloc(); });
+        moveBar(program);
       },
       ::testing::ExitedWithCode(1), "Error 7: Out of memory");
   EXPECT_EXIT(
@@ -120,9 +126,7 @@ TEST(ErrorBoundary, StandsWhereverMemoryRunsOut) {
         Program program;
         Main(program.screens);
         Shell::instance->actions.watchBy([](By) { throw std::bad_alloc(); });
-        auto& bar = program.screens.kelmo().controls().aktina1;
-        QTimer::singleShot(0, [&bar] { bar.Value(77); });
-        deliverEvents();
+        moveBar(program);
       },
       ::testing::ExitedWithCode(1), "Error 7: Out of memory(.|\n)*Radius");
   EXPECT_EXIT(
