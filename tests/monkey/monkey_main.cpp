@@ -6,7 +6,6 @@
 #include <malloc.h>
 #include <set>
 #include <string>
-#include <unistd.h>
 
 #include <QApplication>
 

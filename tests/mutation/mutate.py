@@ -1,30 +1,38 @@
 #!/usr/bin/env python3
 """Whether the tests notice a change: seeded single mutations of optics, canvas and screens.
 
-    tests/mutation/mutate.py FIRST LAST
+    tests/mutation/mutate.py FIRST LAST [JOBS]
 
 Each seed from FIRST to LAST gives one mutation. It is built in a tree of its own under
-build/mutation, and the tests that matter run until one fails. What became of it is added to
+build/mutation, JOBS of them (two unless told otherwise) at a time, and the test programs that need
+no display run until one fails. What became of it is added to
 build/mutation/results.tsv: killed (and by which suite), survived, or stillborn where it does not
 compile. A seed that stands there already is not tried again, so a run goes on where it was stopped.
 tests/mutation/equivalent.tsv explains, by file, line text and change, those that change nothing.
 """
 
+import json
 import random
 import re
+import resource
+import shutil
 import subprocess
 import sys
+import time
+from collections import deque
+from concurrent.futures import ThreadPoolExecutor
+from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
-TREE = WORK / "tree"
-BUILD = WORK / "build"
 RESULTS = WORK / "results.tsv"
 EQUIVALENT = Path(__file__).with_name("equivalent.tsv")
 FOLDERS = ("optics", "canvas", "screens")
-# Seconds until a suite that hangs counts as one that has noticed.
-LONGEST = 300
+# Seconds until a suite that hangs counts as one that has noticed, before it is known how long it
+# takes, and the bytes that it may ask for.
+LONGEST = 300.0
+MEMORY = (8 << 30, 8 << 30)
 
 # What stands there, and what may stand there instead. Blanks tell comparisons from brackets of
 # templates, as the formatter sets them.
@@ -101,66 +109,94 @@ def mutations():
     return everything
 
 
-def build():
-    made = subprocess.run(["cmake", "--build", str(BUILD)], stdout=subprocess.DEVNULL,
-                          stderr=subprocess.DEVNULL, check=False)
-    return made.returncode == 0
+@dataclass
+class Suite:
+    """A test program, what its environment has besides the usual, and how long it may take."""
+
+    program: Path
+    environment: dict
+    longest: float = LONGEST
+
+    def passes(self):
+        done = subprocess.run([str(self.program), "--gtest_fail_fast", "--gtest_brief=1"],
+                              cwd=self.program.parent, timeout=self.longest, check=False,
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              env={"PATH": "/usr/bin:/bin", "HOME": "/tmp", **self.environment},
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, MEMORY))
+        return done.returncode == 0
 
 
-def suites(name):
-    """The test programs, those of the changed folder first; what needs a display is left out."""
-    programs = [p for p in BUILD.glob("tests/**/test_*")
-                if p.is_file() and p.stat().st_mode & 0o111 and not p.suffix]
-    programs.append(next(BUILD.glob("tests/monkey/*monkey*"), None))
-    folder = Path(name).parent.name
-    return sorted((p for p in programs if p and p.is_file()),
-                  key=lambda p: (folder not in str(p), "laws" in p.name, "monkey" in p.name,
-                                 p.stat().st_size))
+class Workshop:
+    """A copy of the tree and its build, in which one mutation at a time stands."""
 
+    def __init__(self, number):
+        self.tree = WORK / f"tree-{number}"
+        self.folder = WORK / f"build-{number}"
+        self.suites = []
 
-def killer(name):
-    for program in suites(name):
+    def prepare(self):
+        shutil.rmtree(self.tree, ignore_errors=True)
+        shutil.copytree(ROOT, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
+        if not (self.folder / "build.ninja").exists():
+            # Unity builds would compile six files for one.
+            subprocess.run(["cmake", "-S", str(self.tree), "-B", str(self.folder), "-G", "Ninja",
+                            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O1",
+                            "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"], check=True,
+                           stdout=subprocess.DEVNULL)
+        if not self.build():
+            sys.exit("The tree does not build as it is.")
+        self.suites = self.programs()
+        for suite in self.suites:
+            began = time.monotonic()
+            if not suite.passes():
+                sys.exit(f"The tests do not pass as they are: {suite.program.name}.")
+            suite.longest = 20.0 + 5.0 * (time.monotonic() - began)
+
+    def build(self):
+        made = subprocess.run(["cmake", "--build", str(self.folder), "--parallel", "1"],
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+        return made.returncode == 0
+
+    def programs(self):
+        """Those of which tests are listed; what needs a display is no such program."""
+        listed = subprocess.run(["ctest", "--show-only=json-v1"], cwd=self.folder, check=True,
+                                capture_output=True, text=True)
+        found = {}
+        for test in json.loads(listed.stdout)["tests"]:
+            command = test.get("command", [""])
+            if not any(word.startswith("--gtest_filter") for word in command):
+                continue
+            values = {p["name"]: p["value"] for p in test["properties"]}
+            environment = dict(line.split("=", 1) for line in values.get("ENVIRONMENT", []))
+            found.setdefault(command[0], Suite(Path(command[0]), environment))
+        return list(found.values())
+
+    def killer(self, name):
+        """The first suite that fails: those of the changed folder first, small ones before large."""
+        folder = Path(name).parent.name
+        for suite in sorted(self.suites, key=lambda s: (f"/{folder}/" not in str(s.program),
+                                                        s.longest)):
+            try:
+                if not suite.passes():
+                    return suite.program.name
+            except subprocess.TimeoutExpired:
+                return suite.program.name + " (hangs)"
+        return None
+
+    def attempt(self, mutation):
+        name, number, old, new = mutation
+        file = self.tree / name
+        text = file.read_text()
+        lines = text.split("\n")
+        lines[number] = new
+        file.write_text("\n".join(lines))
         try:
-            done = subprocess.run([str(program), "--gtest_fail_fast", "--gtest_brief=1"],
-                                  cwd=program.parent, timeout=LONGEST, check=False,
-                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                  env={"QT_QPA_PLATFORM": "offscreen", "PATH": "/usr/bin:/bin",
-                                       "HOME": "/tmp"})
-        except subprocess.TimeoutExpired:
-            return program.name + " (hangs)"
-        if done.returncode != 0:
-            return program.name
-    return None
-
-
-def attempt(mutation):
-    name, number, old, new = mutation
-    file = TREE / name
-    text = file.read_text()
-    lines = text.split("\n")
-    lines[number] = new
-    file.write_text("\n".join(lines))
-    try:
-        if not build():
-            return "stillborn", ""
-        by = killer(name)
-        return ("killed", by) if by else ("survived", "")
-    finally:
-        file.write_text(text)
-
-
-def prepare():
-    WORK.mkdir(parents=True, exist_ok=True)
-    subprocess.run(["rsync", "-a", "--delete", "--exclude=build", "--exclude=.git", f"{ROOT}/",
-                    f"{TREE}/"], check=True)
-    if not (BUILD / "build.ninja").exists():
-        subprocess.run(["cmake", "-S", str(TREE), "-B", str(BUILD), "-G", "Ninja",
-                        "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1"], check=True,
-                       stdout=subprocess.DEVNULL)
-    if not build():
-        sys.exit("The tree does not build as it is.")
-    if by := killer(""):
-        sys.exit(f"The tests do not pass as they are: {by}.")
+            if not self.build():
+                return "stillborn", ""
+            by = self.killer(name)
+            return ("killed", by) if by else ("survived", "")
+        finally:
+            file.write_text(text)
 
 
 def known():
@@ -177,24 +213,31 @@ def explained():
     return {(row[0], row[1], row[2]) for row in rows}
 
 
-def main():
-    if len(sys.argv) != 3:
-        sys.exit(__doc__)
-    first, last = int(sys.argv[1]), int(sys.argv[2])
-    everything = mutations()
-    prepare()
-    tried = known()
-    for seed in range(first, last + 1):
-        if seed in tried:
-            continue
-        mutation = random.Random(seed).choice(everything)
-        became, by = attempt(mutation)
+def work(workshop, left, tried):
+    workshop.prepare()
+    while left:
+        seed, mutation = left.popleft()
+        became, by = workshop.attempt(mutation)
         name, number, old, new = mutation
         row = [str(seed), became, by, name, str(number + 1), old.strip(), new.strip()]
         with RESULTS.open("a") as results:
             results.write("\t".join(row) + "\n")
         tried[seed] = row
         print(*row, sep=" | ", flush=True)
+
+
+def main():
+    if len(sys.argv) not in (3, 4):
+        sys.exit(__doc__)
+    first, last, jobs = int(sys.argv[1]), int(sys.argv[2]), int((sys.argv + [2])[3])
+    everything = mutations()
+    WORK.mkdir(parents=True, exist_ok=True)
+    tried = known()
+    left = deque((seed, random.Random(seed).choice(everything))
+                 for seed in range(first, last + 1) if seed not in tried)
+    with ThreadPoolExecutor(jobs) as pool:
+        for done in [pool.submit(work, Workshop(job), left, tried) for job in range(jobs)]:
+            done.result()
 
     rows = [tried[seed] for seed in range(first, last + 1)]
     same = explained()
