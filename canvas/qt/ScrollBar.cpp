@@ -40,18 +40,27 @@ void ScrollBar::Warning(const QString& words, bool oneStepAway) {
 
 void ScrollBar::initStyleOption(QStyleOptionSlider* option) const {
   QScrollBar::initStyleOption(option);
-  // The styles draw the arrows in the colour of text on the background, which here is the form's
-  // own and light; but they stand on buttons of the desktop's colour.
-  option->palette.setColor(QPalette::WindowText, option->palette.color(QPalette::ButtonText));
+  const QPalette::ColorGroup group = option->palette.currentColorGroup();
+  option->palette = colours_;
+  option->palette.setCurrentColorGroup(group);
 }
 
-// Styles that leave something of a bar free take that back; here it is painted.
 bool ScrollBar::event(QEvent* event) {
   const bool done = QScrollBar::event(event);
-  if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
-    setAttribute(Qt::WA_OpaquePaintEvent);
-  }
+  const QEvent::Type type = event->type();
+  // Styles that leave something of a bar free take that back; here it is painted.
+  if (type == QEvent::Polish || type == QEvent::StyleChange) setAttribute(Qt::WA_OpaquePaintEvent);
+  if (type == QEvent::Polish || type == QEvent::PaletteChange) takeColours();
   return done;
+}
+
+// The styles draw the arrows in the colour of text on the background, which here is the form's own
+// and light; but they stand on buttons of the desktop's colour.
+void ScrollBar::takeColours() {
+  colours_ = palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    colours_.setColor(group, QPalette::WindowText, colours_.color(group, QPalette::ButtonText));
+  }
 }
 
 void ScrollBar::paintEvent(QPaintEvent* event) {

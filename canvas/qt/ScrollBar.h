@@ -46,6 +46,11 @@ class ScrollBar : public Control<QScrollBar> {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  void takeColours();
+
+  // What the styles are given. They keep pictures of arrows by palette, forever: one made anew at
+  // each painting would add to them each time.
+  QPalette colours_;
   QString calm_;  // the tool tip without the warning
   bool warned_ = false;
   bool oneStepAway_ = false;
