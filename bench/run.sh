@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Runs all benchmarks, the screens both without a display and on X11 (a virtual one), and prints
-# one table: each scene in ms, its bare reference and the ratio. Medians; wants an idle machine.
-# Below it stands what memory the program holds, in MiB, and an empty window of the same size.
+# Runs all benchmarks, the screens both without a display and on X11 (a virtual one), and prints what
+# they found as tables: each scene in ms, its bare reference and the ratio (medians; wants an idle
+# machine), and below it what memory the program holds, in MiB, and an empty window of the same size.
 # Arguments go to each benchmark, such as --benchmark_filter=fan.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

@@ -44,8 +44,10 @@ def memory(runs):
 
 
 def main():
-    runs = [(Path(name).name.split("-")[0], run) for name in sys.argv[1:]
-            for run in json.loads(Path(name).read_text())["benchmarks"]]
+    # A file is empty where a filter has left nothing of a benchmark.
+    files = [(Path(name).name.split("-")[0], Path(name).read_text()) for name in sys.argv[1:]]
+    runs = [(platform, run) for platform, text in files if text
+            for run in json.loads(text)["benchmarks"]]
     held = [entry for entry in runs if "MiB" in entry[1]]
     times([entry for entry in runs if entry not in held])
     if held:
