@@ -4,15 +4,14 @@
 #include <cmath>
 #include <numbers>
 
-#include <QFontMetricsF>
-#include <QPainter>
+#include <QFont>
 #include <QString>
 
 #include "canvas/qt/BoxFilter.h"
 #include "canvas/qt/Chords.h"
 #include "canvas/qt/FloodFill.h"
 #include "canvas/qt/Fonts.h"
-#include "canvas/qt/NewImage.h"
+#include "canvas/qt/Words.h"
 
 namespace lensbench {
 namespace {
@@ -265,39 +264,12 @@ double RasterCanvas::paintText(Point upperLeft, std::string_view text, const Fon
   QFont face(installedFamily(QString::fromStdString(font.name)));
   face.setPixelSize(imagePixels(font.size * 96.0 / 72.0 * scale));
   face.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-  // Metrics as an image has them, of whatever size.
-  QImage page(1, 1, QImage::Format_RGB32);
-  const QFontMetricsF metrics(face, &page);
-  const double lineHeight = metrics.lineSpacing() / scale;
-
-  // The corner of the pixel, not its middle, is where text begins.
   const Point middle = toImage(upperLeft);
-  const QPointF corner(middle.x - scale / 2.0, middle.y - scale / 2.0);
-  const QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-  const QPointF baseline(corner.x(), corner.y() + metrics.ascent());
-  const QRectF bounds = metrics.boundingRect(words).translated(baseline);
-  const QRectF all(0.0, 0.0, tiles_.width(), tiles_.height());
-  const QRectF touched = bounds.adjusted(-2, -2, 2, 2) & all;
-  if (!isFinite(middle) || touched.isEmpty()) return lineHeight;
-  // Blended with what is there: copied out, drawn on, and put back.
-  const QRect area = touched.toAlignedRect() & all.toRect();
-  page = newImage(area.size());
-  boxFilter(tiles_, page, area.topLeft(), 1);
-  QPainter painter(&page);
-  painter.translate(-area.topLeft());
-  painter.setFont(face);
-  painter.setPen(QColor::fromRgb(opaque(colour)));
-  painter.drawText(baseline, words);
-  painter.end();
-  for (int y = 0; y < page.height(); ++y) {
-    const auto* const row = reinterpret_cast<const PixelValue*>(page.constScanLine(y));
-    for (int x = 0; x < page.width(); ++x) {
-      if (tiles_.at(area.left() + x, area.top() + y) == row[x]) continue;
-      tiles_.set(area.left() + x, area.top() + y, row[x]);
-    }
-  }
+  // The corner of the pixel, not its middle, is where text begins.
+  const Point corner{middle.x - scale / 2.0, middle.y - scale / 2.0};
+  const double lineHeight = drawWords(tiles_, corner, text, face, opaque(colour));
   tellChange();
-  return lineHeight;
+  return lineHeight / scale;
 }
 
 bool RasterCanvas::fillArea(int pixelX, int pixelY, Rgb border, Rgb fill) {
