@@ -60,8 +60,22 @@ inline void require(bool law, const char* words) {
 
 inline bool finite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
+// How many rays were looked at; said when the program ends.
+class RayCount {
+ public:
+  ~RayCount() {
+    if (rays_ > 0) std::fprintf(stderr, "rays: %llu\n", rays_);
+  }
+  void add() { ++rays_; }
+
+ private:
+  unsigned long long rays_ = 0;
+};
+inline RayCount rayCount;
+
 // One to three joined pieces of finite points, each along a unit vector.
 inline void requirePath(const light::RayPath& path) {
+  rayCount.add();
   require(path.count >= 1 && path.count <= 3, "a path has one to three pieces");
   const Point* joint = nullptr;
   for (const light::Piece& piece : path.way()) {
