@@ -138,9 +138,9 @@ class Workshop:
         shutil.rmtree(self.tree, ignore_errors=True)
         shutil.copytree(ROOT, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
         if not (self.folder / "build.ninja").exists():
-            # Unity builds would compile six files for one.
+            # The program file by file, since a unity build would compile several for one.
             subprocess.run(["cmake", "-S", str(self.tree), "-B", str(self.folder), "-G", "Ninja",
-                            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O1",
+                            "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1",
                             "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"], check=True,
                            stdout=subprocess.DEVNULL)
         if not self.build():

@@ -1,0 +1,1 @@
+// Nothing of its own: a library needs a source, and this one consists of headers.
