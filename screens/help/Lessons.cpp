@@ -7,6 +7,8 @@ using light::Diafragma;
 
 // Wide enough for every ray that meets the lens.
 constexpr Diafragma open{-150.0, 156.0, -156.0};
+// As wide, and out of the way of a source that is put before the lens.
+constexpr Diafragma openAtTheLens{-30.0, 156.0, -156.0};
 
 constexpr View aroundTheRay{-220.0, 220.0, -110.0, 110.0};
 constexpr View aroundTheGlass{-60.0, 255.0, -170.0, 170.0};
@@ -29,7 +31,8 @@ constexpr OnWorkbench with(OnWorkbench bench, std::variant<Fan, Bundle, Marks> l
 }
 
 constexpr OnWorkbench imageOf(Point source) {
-  OnWorkbench bench = with(strong(open), Marks{});
+  OnWorkbench bench = with(strong(openAtTheLens), Marks{});
+  bench.desmi1 = 40;
   bench.source = source;
   return bench;
 }
@@ -352,10 +355,11 @@ constexpr std::array<Lesson, 12> lessons{{
                 "and the angle 0. Open the biconvex one too."},
         .look = {"Όλες οι ακτίνες, και οι πιο απομακρυσμένες, περνούν από το (-18.00, 0.00), την "
                  "άλλη εστία της υπερβολής: c = n·a = 1.50·12. Ο αμφίκυρτος φακός έχει την ίδια "
-                 "όψη και από τις δύο πλευρές: φέρνει στο ίδιο σημείο το φως του (114.00, 0.00).",
+                 "όψη και από τις δύο πλευρές: με τον ίδιο δείκτη φέρνει στο ίδιο σημείο το φως "
+                 "του (114.00, 0.00).",
                  "All rays, the outermost too, pass through (-18.00, 0.00), the other focus of the "
                  "hyperbola: c = n·a = 1.50·12. The biconvex lens has the same face on both sides: "
-                 "it brings the light of (114.00, 0.00) to the same point."},
+                 "with the same index it brings the light of (114.00, 0.00) to the same point."},
         .question = {"Πού συναντιούνται οι ακτίνες της δέσμης για δείκτη διάθλασης 2.00;",
                      "Where do the rays of the bundle meet for an index of 2.00?"},
         .answer = {"Στο (-24.00, 0.00), γιατί c = 2.00·12.",
