@@ -188,11 +188,13 @@ constexpr std::array<Lesson, 12> lessons{{
                 "Rest the mouse pointer on F2, then on the plane H2. Then narrow the diaphragm "
                 "until its opening, which is written at the lower right, is about 24, and send a "
                 "bundle with “// BUNDLE  DESMH” and the angle 0."},
-        .look = {"Το F2 σημειώνεται στο x = 122.00, ενώ οι ακτίνες κοντά στον άξονα συναντιούνται "
+        .look = {"Το F2 σημειώνεται στο x = 122.00 και το H2 στο x = 2.00, ενώ οι ακτίνες κοντά "
+                 "στον άξονα συναντιούνται "
                  "στο x = 116.67: 5.33 πιο κοντά στον φακό. Κάθε σημείο τοποθετείται με την ακτίνα "
                  "καμπυλότητας της όψης που έχει δίπλα του· η ακριβής οπτική, που ακολουθούν οι "
                  "ακτίνες, θέλει εκείνη της απέναντι όψης.",
-                 "F2 is marked at x = 122.00, but rays near the axis meet at x = 116.67: 5.33 "
+                 "F2 is marked at x = 122.00 and H2 at x = 2.00, but rays near the axis meet at x "
+                 "= 116.67: 5.33 "
                  "nearer to the lens. Each mark is placed with the radius of the face beside it; "
                  "exact optics, which the rays follow, takes that of the opposite face."},
         .question = {"Για ποιους φακούς δεν υπάρχει διαφορά;",

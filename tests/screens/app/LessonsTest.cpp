@@ -310,6 +310,7 @@ TEST_F(LessonsTest, CardinalPointsOfAThickLens) {
   const auto& lesson = set(5);
   EXPECT_NEAR(points().d, points().f, 1e-9);
   says(lesson.look, points().F2);
+  says(lesson.look, "x = " + formatHundredths(points().H2));
   says(lesson.see, formatWhole(points().d));
   const poreiaaktinon::Fakos lens = program.screens.kelmo().fakos();
   const double meets = parallelRayCrosses(lens, 1.5, 1e-4);
