@@ -49,6 +49,7 @@ bool write(Screens& screens, const QDir& folder) {
   std::size_t number = 0;
   for (const lessons::Lesson& lesson : lessons::all()) {
     setUp(screens, lesson);
+    comeToRest();
     Form& form = inFront(screens);
     form.showMaximized();
     comeToRest();
