@@ -131,10 +131,10 @@ constexpr std::array<Lesson, 12> lessons{{
                 "they meet, the image is formed. They are rays of a construction: they bend at the "
                 "principal planes H1 and H2, not at the faces of the lens."},
         .act = {"Άφησε τον δείκτη του ποντικιού ακίνητο πάνω στο γαλάζιο σημείο, το είδωλο. "
-                "Κράτησε πατημένο το Shift και πάτησε μακριά από τον φακό, πρώτα πιο κοντά και "
-                "ύστερα πιο μακριά του από την πηγή· κάθε φορά ρώτησε πάλι το είδωλο.",
+                "Κράτησε πατημένο το Shift και πάτησε μακριά από τον φακό, πρώτα πιο κοντά του από "
+                "όσο είναι τώρα η πηγή και ύστερα πιο μακριά· κάθε φορά ρώτησε πάλι το είδωλο.",
                 "Rest the mouse pointer on the light-blue point, the image. Hold Shift and press "
-                "away from the lens, first nearer to it and then farther than the source; each "
+                "away from the lens, first nearer to it than the source is now, then farther; each "
                 "time ask the image again."},
         .look = {"Η πηγή απέχει δύο εστιακές αποστάσεις από το H1, στο (-220, 20). Το είδωλο είναι "
                  "πραγματικό, στο (220, -20): ανεστραμμένο και ίσο, με μεγέθυνση -1.00.",
