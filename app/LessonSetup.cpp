@@ -64,8 +64,8 @@ void put(Screens& screens, const OnWorkbench& lesson) {
   controls.kentrokykloy2.Value(lesson.xc1);
   controls.kentrokykloy.Value(lesson.xc2);
   controls.deiktisdiathlasis.Value(lesson.n);
-  controls.Check2.Value(false);
-  controls.Check1.Value(lesson.waves);
+  controls.Check1.Value(false);
+  controls.Check2.Value(lesson.onlyWaves);
   // The check boxes write the number of rays.
   controls.desmi1.Value(lesson.desmi1);
   KelmoState state = atRest(bench, lesson.diafragma);
@@ -102,7 +102,7 @@ void put(Screens& screens, const OnIbnSahl& lesson) {
   SahlState state = screen.state();
   state.diafragma = lesson.diafragma;
   screen.restore(state);
-  screen.RAYSANDWAVES_Click();
+  screen.controls().onlyrays.Value(true);
   screen.drawBundle(lesson.light.degrees);
 }
 

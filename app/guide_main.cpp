@@ -5,6 +5,7 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QImage>
 #include <QSaveFile>
 
 #include "app/Application.h"
@@ -34,13 +35,26 @@ Form& inFront(Screens& screens) {
   return screens.kelmo();
 }
 
+// What the form shows of a part of the plane.
+QImage picture(Form& form, const lessons::View& view) {
+  const UserMapping map = form.canvas().mapping();
+  const Point upperLeft = map.toPixel({view.left, view.upper});
+  const Point lowerRight = map.toPixel({view.right, view.lower});
+  const QImage whole = form.area().picture();
+  const QRectF part(QPointF(upperLeft.x, upperLeft.y), QPointF(lowerRight.x, lowerRight.y));
+  return whole.copy(part.toAlignedRect() & whole.rect());
+}
+
 bool write(Screens& screens, const QDir& folder) {
   std::size_t number = 0;
   for (const lessons::Lesson& lesson : lessons::all()) {
     setUp(screens, lesson);
     comeToRest();
+    Form& form = inFront(screens);
+    form.showMaximized();
+    comeToRest();
     const QString file = folder.filePath(QString::fromStdString(lessons::picturePath(++number)));
-    if (!inFront(screens).area().picture().save(file)) return false;
+    if (!picture(form, lesson.view).save(file)) return false;
     std::puts(qPrintable(file));
   }
   const std::string page = lessons::guide();

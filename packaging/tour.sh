@@ -31,23 +31,28 @@ workbench() {
   picture diaphragm
 }
 
+# While the source is on the axis, where no image of it is constructed, with wave points along the
+# rays, true fronts; the check box and the bundle are taken back.
+bundle() {
+  send_bundle
+  picture bundle
+  click "$bench" $waves_and_rays
+  send_bundle
+  picture bundle-with-waves
+  key ctrl+z ctrl+z ctrl+z
+}
+send_bundle() {
+  menu "$bench" 2
+  answer "Lens Bench" 20
+}
+
 fan() {
   shift_click "$bench" $(at_bench "$bench" -260 50)
   picture fan
 }
 
-bundle() {
-  menu "$bench" 2
-  answer "Lens Bench" 20
-  picture bundle
-}
-
-# Wave points along the rays, true fronts.
-waves() {
+fan_with_waves() {
   click "$bench" $waves_and_rays
-  menu "$bench" 2
-  answer "Lens Bench" 20
-  picture bundle-with-waves
   shift_click "$bench" $(at_bench "$bench" -260 50)
   picture fan-with-waves
   click "$bench" $waves_and_rays
@@ -88,14 +93,14 @@ single_ray() {
   local ray
   menu "$bench" 1
   ray=$(window "ΜΙΑ ΑΚΤΙΝΑ")
-  drag "$ray" $(at_ray "$ray" -170 90) $(at_ray "$ray" -20 50)
+  drag "$ray" $(at_ray "$ray" -170 -90) $(at_ray "$ray" -20 -50)
   picture single-ray
-  # At rest where the ray enters the glass, until the picture answers.
-  move "$ray" $(at_ray "$ray" 12 44)
-  move "$ray" $(at_ray "$ray" 9.3 42.2)
+  # At rest where the ray enters the glass, until the picture answers below the way of the ray.
+  move "$ray" $(at_ray "$ray" 12 -44)
+  move "$ray" $(at_ray "$ray" 9.3 -42.8)
   sleep 1.5
   frame law
-  mogrify -crop 760x300+400+210 +repage "$pictures/law.png"
+  mogrify -crop 760x280+400+290 +repage "$pictures/law.png"
   click "$ray" 324 24
   no_window "ΜΙΑ ΑΚΤΙΝΑ"
 }
@@ -143,7 +148,7 @@ waves_and_rays="20 $((menu_bar + 78))"
 mkdir -p "$pictures"
 start_display 1366x768
 start_program "$program_file"
-for stop in workbench fan saved bundle waves plane_waves waves_of_a_point single_ray \
+for stop in workbench bundle fan saved fan_with_waves plane_waves waves_of_a_point single_ray \
   lens_menu plano_convex biconvex farewell; do
   "$stop"
 done

@@ -86,11 +86,11 @@ std::string reflectionWords(const RayPath& path) {
     const std::string limit = formatDecimals(critical, decimals);
     const std::string shown = formatDecimals(angle, decimals);
     if (shown == limit) continue;
-    return "ολική ανάκλαση: οι " + shown + "° ξεπερνούν την οριακή γωνία των " + limit +
+    return "ολική ανάκλαση: οι " + shown + "° ξεπερνούν την κρίσιμη γωνία των " + limit +
            "°\ntotal reflection: " + shown + "° is more than the critical angle " + limit + "°";
   }
   const std::string shown = formatHundredths(critical);
-  return "ολική ανάκλαση: οι " + shown + "° είναι η οριακή γωνία\ntotal reflection: " + shown +
+  return "ολική ανάκλαση: οι " + shown + "° είναι η κρίσιμη γωνία\ntotal reflection: " + shown +
          "° is the critical angle";
 }
 

@@ -8,10 +8,16 @@ namespace {
 constexpr Words opening{
     "Δώδεκα μαθήματα για το πρόγραμμα Lens Bench. Για το καθένα αρκούν πέντε λεπτά: τι βλέπεις, τι "
     "κάνεις, τι προσέχεις, και μια ερώτηση με την απάντησή της. Στο παράθυρο της βοήθειας (F1) το "
-    "«Στήσε το» βάζει στην οθόνη ό,τι χρειάζεται το μάθημα· το Ctrl+Z το παίρνει πίσω.",
+    "«Στήσε το» βάζει στην οθόνη ό,τι χρειάζεται το μάθημα· το Ctrl+Z το παίρνει πίσω. Χωρίς "
+    "ποντίκι: το Tab φτάνει ως την εικόνα και πηγαίνει σε όσα πιάνονται, τα βέλη τα μετακινούν, το "
+    "Enter πάνω στην πηγή στέλνει το φως της, όπως το Shift με πάτημα, και το Alt ανοίγει τα "
+    "μενού· ό,τι απαντά η εικόνα στον δείκτη του ποντικιού είναι γραμμένο στο «Τι προσέχεις».",
     "Twelve lessons for the program Lens Bench. Five minutes are enough for each: what you see, "
     "what you do, what you look for, and a question with its answer. In the help window (F1) “Set "
-    "it up” puts on the screen what the lesson needs; Ctrl+Z takes it back."};
+    "it up” puts on the screen what the lesson needs; Ctrl+Z takes it back. Without a mouse: Tab "
+    "reaches the picture and goes to the things that can be taken, arrows move them, Enter at the "
+    "source sends its light as Shift and a press do, and Alt opens the menus; what the picture "
+    "answers to the pointer is written under “What to look for”."};
 
 std::string row(const Words& name, const Words& words) {
   std::string line("| **");

@@ -36,7 +36,7 @@ struct OnWorkbench {
   int desmi1 = 20;
   light::Diafragma diafragma{};
   Point source{-200.0, 0.0};
-  bool waves = false;  // with the rays
+  bool onlyWaves = false;  // instead of the rays
   std::variant<Fan, Bundle, Marks> light{};
 };
 
@@ -51,12 +51,20 @@ struct OnSingleRay {
   Point aim{};
 };
 
-// A bundle through a lens of Ibn Sahl's, with rays and fronts.
+// A bundle through a lens of Ibn Sahl's, as rays alone.
 struct OnIbnSahl {
   bool amfikyrtos = false;  // biconvex
   int n = 150;              // hundredths
   light::Diafragma diafragma{};
   Bundle light{};
+};
+
+// A part of the plane, user units; by default the lenses of the workbench with their labels.
+struct View {
+  double left = -260.0;
+  double right = 320.0;
+  double lower = -115.0;
+  double upper = 154.0;
 };
 
 struct Lesson {
@@ -67,6 +75,7 @@ struct Lesson {
   Words question;
   Words answer;
   std::variant<OnWorkbench, OnSingleRay, OnIbnSahl> setup;
+  View view{};  // what its picture in the guide shows
 };
 
 // A lesson piece by piece as it is read, each under its name.

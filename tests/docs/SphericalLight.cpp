@@ -60,7 +60,9 @@ double criticalAngle(double ratio) {
   return passes;
 }
 
-std::string inDegrees(double radians) { return fixed(radians / degree) + "°"; }
+std::string inDegrees(double radians, int decimals = 2) {
+  return fixed(radians / degree, decimals) + "°";
+}
 
 // The rays of a bundle through a lens of index 1.
 std::vector<RayPath> bundle(double gonia) {
@@ -81,7 +83,7 @@ void sayUnits(Page& page) {
   EXPECT_TRUE(estiakiapostasi(100, 90, 1).isEmpty());
   EXPECT_LT(estiakiapostasi(100, 90, 0.99), 0);
   EXPECT_GT(estiakiapostasi(100, 90, 1.01), 0);
-  page.says("below 1 it is a lens of thin stuff in dense stuff");
+  page.says("below 1 the lens is of an optically thinner material than its surroundings");
 
   RandomBench random(101);
   for (int i = 0; i < 1000; ++i) {
@@ -215,8 +217,8 @@ void sayFans(Page& page) {
   EXPECT_EQ(paths.size(), std::floor(360.0 / step));
   const double radius = 200.0;
   const Front::Piece piece = frontAt(fan, radius).pieces.front();
-  page.says("with a step of " + fixed(step) + "°, the first of the workbench, " +
-            std::to_string(rayCount(step)) + " rays, the last " + inDegrees(gap) +
+  page.says("with a step of " + fixed(step, 4) + "°, the first of the workbench, " +
+            std::to_string(rayCount(step)) + " rays, the last " + inDegrees(gap, 4) +
             " from the first");
   page.says(fixed(radius, 0) + " from its source the true front bulges by " +
             fixed(radius - length(0.5 * (piece.from + piece.to))) + " beyond them");

@@ -113,7 +113,7 @@ TEST(AskRays, AtAVertexARayGoesOnUnrefracted) {
 
 TEST(AskRays, ATotalReflectionNamesTheCriticalAngle) {
   EXPECT_EQ(said({endingAtOrigin(48.2, 1.5, Ending::TotalReflection)}, {0.0, 0.0}),
-            "ολική ανάκλαση: οι 48.2° ξεπερνούν την οριακή γωνία των 41.8°\n"
+            "ολική ανάκλαση: οι 48.2° ξεπερνούν την κρίσιμη γωνία των 41.8°\n"
             "total reflection: 48.2° is more than the critical angle 41.8°");
 }
 
