@@ -1,5 +1,6 @@
 #include "canvas/qt/Tiles.h"
 
+#include <bit>
 #include <cstddef>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -124,26 +125,62 @@ void Tiles::fillAcross(int y, int from, int until, PixelValue colour) {
 }
 
 void Tiles::fillBand(const Band& band, PixelValue colour) {
+  // Steep lines stay in a tile for many rows, and what is known of all of these need not be asked
+  // for each.
+  constexpr int few = 8;
+  Band rest = band;
+  while (rest.top < rest.bottom) {
+    const int inThisTile = std::min(rest.bottom - rest.top, side - inTile(rest.top));
+    int rows = inThisTile;
+    int column = columnOf(rest, rows);
+    if (column < 0 && rows > few) {
+      rows = few;
+      column = columnOf(rest, rows);
+    }
+    if (column >= 0) {
+      fillInTile(column, rest, rows, colour);
+    } else {
+      for (int row = 0; row < rows; ++row) {
+        const int from = std::max(whole(rest.left + row * rest.step), 0);
+        const int until = std::min(whole(rest.right + row * rest.step), width_);
+        if (from < until) fill(rest.top + row, from, until, colour);
+      }
+    }
+    rest.top += rows;
+    rest.left += rows * rest.step;
+    rest.right += rows * rest.step;
+  }
+}
+
+// The column of tiles in which the first rows of a band lie as a whole, none of them empty; or -1.
+int Tiles::columnOf(const Band& band, int rows) const noexcept {
+  const Fixed over = (rows - 1) * band.step;
+  const int from = whole(band.left + std::min<Fixed>(over, 0));
+  const int until = whole(band.right + std::max<Fixed>(over, 0));
+  const bool inside = from >= 0 && until <= width_ && whole(band.right - band.left) > 0;
+  return inside && tileOf(from) == tileOf(until - 1) ? tileOf(from) : -1;
+}
+
+void Tiles::fillInTile(int column, const Band& band, int rows, PixelValue colour) {
+  const std::size_t tile = index(column, tileOf(band.top));
+  const Rows all = (~Rows{0} >> (side - rows)) << inTile(band.top);
+  while (const Rows missing = all & ~tiles_[tile].ready) open(tile, std::countr_zero(missing));
+
+  PixelValue* line = pages_[tile].row(inTile(band.top));
+  PixelValue* const end = line + rows * side;
   Fixed left = band.left;
   Fixed right = band.right;
-  for (int y = band.top; y < band.bottom;) {
-    const std::size_t tiles = index(0, tileOf(y));
-    const Tile* const tile = tiles_.data() + tiles;
-    Page* const page = pages_.get() + tiles;
-    const int next = std::min(band.bottom, (tileOf(y) + 1) * side);
-    for (; y < next; ++y, left += band.step, right += band.step) {
-      const int from = std::max(whole(left), 0);
-      const int until = std::min(whole(right), width_);
-      if (from >= until) continue;
-      const int first = tileOf(from);
-      if (first != tileOf(until - 1)) {
-        fillAcross(y, from, until, colour);
-        continue;
-      }
-      if (!has(tile[first].ready, inTile(y))) {
-        open(tiles + static_cast<std::size_t>(first), inTile(y));
-      }
-      fillRun(page[first].row(inTile(y)) + inTile(from), until - from, colour);
+  const int least = whole(right - left);
+  if (least >= 2 && least < 4) {
+    // Two to four pixels in each row: two stores of two, which may overlap.
+    const std::array<PixelValue, 2> two{colour, colour};
+    for (; line < end; line += side, left += band.step, right += band.step) {
+      std::memcpy(line + inTile(whole(left)), two.data(), sizeof two);
+      std::memcpy(line + inTile(whole(right) - 2), two.data(), sizeof two);
+    }
+  } else {
+    for (; line < end; line += side, left += band.step, right += band.step) {
+      fillRun(line + inTile(whole(left)), whole(right) - whole(left), colour);
     }
   }
 }

@@ -113,6 +113,9 @@ class Tiles {
   }
   static void fillRun(PixelValue* first, int count, PixelValue colour) noexcept;
   void fillAcross(int y, int from, int until, PixelValue colour);
+  int columnOf(const Band& band, int rows) const noexcept;
+  // The first rows of a band, which lie in one tile.
+  void fillInTile(int column, const Band& band, int rows, PixelValue colour);
   // Makes a row one that can be painted.
   void open(std::size_t tile, int row);
   const Page* plainPage(PixelValue colour);
