@@ -23,7 +23,17 @@ begin() {
 
 # Ends the program by the workbench's own entry, which is asked of every test that can.
 end() {
+  local tries
   menu "$bench" 6
+  for ((tries = 0; tries < 60; ++tries)); do
+    program_runs || break
+    sleep 0.05
+  done
+  # Keys that come while the window manager is still busy with a window may be lost.
+  if program_runs; then
+    key Escape
+    menu "$bench" 6
+  fi
   expect_end 0
 }
 
