@@ -20,8 +20,8 @@ struct CardinalPoints {
 };
 
 // The thick-lens formulas. A radius or index of 0, and a lens without power, are Division by zero
-// (11). Kept on purpose: each principal point is placed with the radius of the face beside it; exact
-// optics, which the rays follow, takes that of the opposite face.
+// (11). Kept on purpose: each principal point is placed with the radius of the face beside it;
+// exact optics, which the rays follow, takes that of the opposite face.
 CardinalPoints cardinalPoints(const Fakos& fakos, double n);
 
 // The same with each principal point where paraxial rays have it; the two differ where the radii
